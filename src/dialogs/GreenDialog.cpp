@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "dialogs/GreenDialog.h"
+
+#include "mainwindow/Label.h"
+
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QWindow>
+
+namespace {
+
+// The part of `place` that no other control begins in, towards the right and downwards.
+QSize RoomWithin(const QRect& place, const QWidget& control, const QWidget& dialog) {
+    QRect room = place & dialog.rect();
+    for (const QObject* child : dialog.children()) {
+        const auto* other = qobject_cast<const QWidget*>(child);
+        if (other == nullptr || other == &control || !other->geometry().intersects(room)) {
+            continue;
+        }
+        const QRect taken = other->geometry();
+        if (taken.left() > room.left() && taken.top() <= room.top()) {
+            room.setRight(taken.left() - 1);
+        } else if (taken.top() > room.top()) {
+            room.setBottom(taken.top() - 1);
+        }
+    }
+    return room.size();
+}
+
+} // namespace
+
+GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSize& clientSize) {
+    setObjectName(name);
+    setWindowTitle(caption);
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    setFixedSize(clientSize);
+}
+
+void GreenDialog::ShowModal(const QWidget& window) {
+    winId();
+    windowHandle()->setTransientParent(window.windowHandle());
+    const QRect screenArea = window.screen()->geometry();
+    const QMargins frame = window.windowHandle()->frameMargins();
+    const QSize outer = size().grownBy(frame);
+    move(screenArea.center() - QPoint(outer.width() / 2, outer.height() / 2));
+    exec();
+}
+
+Label* GreenDialog::AddLabel(const LabelDesign& design) {
+    auto* label = new Label(this, LabelFont(design.size, design.weight), design.colour, Qt::AlignLeft);
+    label->setObjectName(design.name);
+    label->setGeometry(design.place);
+    label->SetCaption(design.caption);
+    return label;
+}
+
+QPushButton* GreenDialog::AddButton(const QString& name, const QString& caption, const QRect& place) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setGeometry(place);
+    return button;
+}
+
+void GreenDialog::FitLabels() {
+    for (QObject* child : children()) {
+        if (auto* label = dynamic_cast<Label*>(child)) {
+            label->SetRoom(RoomWithin(label->geometry(), *label, *this));
+        }
+    }
+}
+
+void GreenDialog::Unload() {
+    done(QDialog::Accepted);
+}
+
+void GreenDialog::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) {
+        QDialog::keyPressEvent(event);
+    } else if (cancelButton_ != nullptr) {
+        cancelButton_->click();
+    }
+}

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/Form1.h"
+#include "mainwindow/Label.h"
+#include "mainwindow/Picture.h"
+#include "platform/Process.h"
+
+#include <QAction>
+#include <QMessageBox>
+
+using namespace Qt::StringLiterals;
+
+void Form1::Form_Load() {
+    LoadHighScores();
+    StartNewGame();
+}
+
+void Form1::StartNewGame() {
+    board_.Clear();
+    pendingRoll_ = 0;
+    UpdateScores();
+    for (PictureButton* cell : cells_) {
+        cell->SetPicture(imageList2_, 1);
+    }
+    mnuGameRoll_->setEnabled(true);
+    image1_->show();
+    imgRolled1_->hide();
+    imgRolled2_->hide();
+    lblRolled_->SetCaption(QString());
+}
+
+void Form1::imgNewGame_Click() {
+    mnuNewGame_Click();
+}
+
+void Form1::mnuNewGame_Click() {
+    if (board_.IsFull() || Confirm(u"Are you sure you want to quit this game and start a new one?"_s)) {
+        StartNewGame();
+    }
+}
+
+void Form1::mnuGameExit_Click() {
+    if (Confirm(u"Are you sure you want to quit?"_s)) {
+        platform_.process.End();
+    }
+}
+
+bool Form1::Confirm(const QString& question) {
+    QMessageBox box(QMessageBox::NoIcon, u"Kelvaro"_s, question, QMessageBox::Yes | QMessageBox::No, this);
+    box.setDefaultButton(QMessageBox::Yes);
+    return box.exec() == QMessageBox::Yes;
+}

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/Form1.h"
+#include "mainwindow/Label.h"
+#include "mainwindow/Picture.h"
+
+#include <QAction>
+
+void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column) {
+    if (board_.At(row, column) != 0 || pendingRoll_ == 0) {
+        return;
+    }
+    // Before the scoring, which takes rolling away again when the board is full.
+    image1_->show();
+    mnuGameRoll_->setEnabled(true);
+
+    board_.Set(row, column, pendingRoll_);
+    cell.SetPicture(imageList2_, pendingRoll_);
+    pendingRoll_ = 0;
+    lblRolled_->SetCaption(QString());
+    imgRolled1_->hide();
+    imgRolled2_->hide();
+    UpdateScores();
+}

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "game/Dice.h"
+#include "mainwindow/Form1.h"
+#include "mainwindow/Label.h"
+#include "mainwindow/Picture.h"
+#include "mainwindow/Prompts.h"
+#include "platform/Clock.h"
+#include "platform/EventPump.h"
+#include "platform/Int16.h"
+#include "platform/UniformGenerator.h"
+
+#include <QAction>
+
+void Form1::Image1_Click() {
+    RollDice();
+}
+
+void Form1::mnuGameRoll_Click() {
+    RollDice();
+}
+
+void Form1::RollDice() {
+    if (pendingRoll_ != 0) {
+        return;
+    }
+    image1_->hide();
+    mnuGameRoll_->setEnabled(false);
+
+    platform_.generator.Reseed(platform_.clock.Second());
+    const std::int16_t firstDie = RollDie(platform_.generator);
+    const std::int16_t secondDie = RollDie(platform_.generator);
+    pendingRoll_ = CheckedAdd(secondDie, firstDie);
+    imgRolled1_->SetPicture(imageList1_, firstDie);
+    imgRolled2_->SetPicture(imageList1_, secondDie);
+
+    // The roll may be placed, or a new game begun, inside either pause; what follows is done all the same,
+    // from the fields as they then stand.
+    imgRolled1_->show();
+    Pause();
+    imgRolled2_->show();
+    Pause();
+    lblRolled_->SetCaption(RolledCaption(pendingRoll_));
+    SetPrompt(Prompts::select);
+}
+
+// A count of passes on purpose, not a time.
+void Form1::Pause() {
+    for (std::int16_t outer = 1; outer <= 1000; outer = CheckedAdd(outer, 1)) {
+        for (std::int16_t inner = 1; inner <= 250; inner = CheckedAdd(inner, 1)) {
+            platform_.pump.Pass();
+        }
+    }
+}

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "highscores/DateTimeText.h"
+#include "highscores/frmHighScores.h"
+#include "mainwindow/Form1.h"
+#include "platform/SettingsStore.h"
+
+void Form1::LoadHighScores() {
+    highScores_.Load(platform_.store);
+}
+
+void Form1::SaveHighScores() {
+    highScores_.Save(platform_.store);
+}
+
+void Form1::RecordHighScore(std::int16_t score) {
+    const auto rank = highScores_.RankFor(score);
+    if (rank) {
+        highScores_.MakeRoomAt(*rank);
+        highScores_.Set(*rank, score, DateTimeText(platform_.clock));
+    }
+    // On disk before anything else happens, so that no end of the program can lose the round.
+    SaveHighScores();
+    if (rank) {
+        ShowHighScores();
+    }
+}
+
+void Form1::mnuGameHigh_Click() {
+    LoadHighScores();
+    ShowHighScores();
+}
+
+void Form1::ShowHighScores() {
+    frmHighScores dialog(highScores_, platform_.store);
+    dialog.ShowModal(*this);
+}

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "highscores/frmHighScores.h"
+
+#include "highscores/HighScoreTable.h"
+#include "mainwindow/Label.h"
+#include "platform/Int16.h"
+
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+frmHighScores::frmHighScores(const HighScoreTable& table, SettingsStore& store)
+    : GreenDialog(u"frmHighScores"_s, u"High Scores"_s, QSize(402, 143)), store_(store) {
+    auto* okButton = AddButton(u"OKButton"_s, u"OK"_s, {304, 8, 89, 25});
+    auto* cancelButton = AddButton(u"CancelButton"_s, u"Reset Scores"_s, {304, 40, 89, 25});
+    connect(okButton, &QPushButton::clicked, this, &frmHighScores::OKButton_Click);
+    connect(cancelButton, &QPushButton::clicked, this, &frmHighScores::CancelButton_Click);
+
+    for (std::int16_t rank = 1; rank <= HighScoreTable::Ranks; rank = CheckedAdd(rank, 1)) {
+        const int index = rank - 1;
+        lblHighScore_[static_cast<std::size_t>(index)] = AddLabel({u"lblHighScore(%1)"_s.arg(index),
+                                                                   {8, 8 + 24 * index, 281, 25},
+                                                                   Colours::white,
+                                                                   TypeSize::Chart,
+                                                                   QFont::Bold,
+                                                                   table.Caption(rank)});
+    }
+    FitLabels();
+}
+
+void frmHighScores::OKButton_Click() {
+    Unload();
+}
+
+void frmHighScores::CancelButton_Click() {
+    ResetStoredScores(store_);
+    for (Label* label : lblHighScore_) {
+        label->SetCaption(u"0"_s);
+    }
+    Unload();
+}

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "dialogs/GreenDialog.h"
+
+class HighScoreTable;
+class SettingsStore;
+
+// The list of the five best rounds.
+class frmHighScores final : public GreenDialog {
+public:
+    // Shows `table` as it stands. "Reset Scores" empties `store`, which outlives the dialog, and leaves
+    // `table` alone.
+    frmHighScores(const HighScoreTable& table, SettingsStore& store);
+
+private:
+    void OKButton_Click();
+    void CancelButton_Click();
+
+    SettingsStore& store_;
+    std::array<Label*, 5> lblHighScore_{};
+};

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/Appearance.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QStringList>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString LabelFamily() {
+    // These share their widths and heights; whatever else a system falls back to is wider or taller.
+    static const QStringList preferred{u"MS Sans Serif"_s, u"Microsoft Sans Serif"_s, u"Arial"_s,
+                                       u"Liberation Sans"_s, u"Arimo"_s};
+    const auto found = std::ranges::find_if(
+        preferred, [](const QString& family) { return QFontDatabase::hasFamily(family); });
+    return found == preferred.end() ? QGuiApplication::font().family() : *found;
+}
+
+} // namespace
+
+QFont LabelFont(TypeSize size, QFont::Weight weight) {
+    static const QString family = LabelFamily();
+    QFont font(family);
+    font.setPixelSize(static_cast<int>(size));
+    font.setWeight(weight);
+    return font;
+}

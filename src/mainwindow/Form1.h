@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "game/Board.h"
+#include "game/RollValue.h"
+#include "highscores/HighScoreTable.h"
+#include "pictures/PictureList.h"
+#include "platform/Platform.h"
+
+#include <QMainWindow>
+#include <QMargins>
+#include <QString>
+
+#include <array>
+#include <cstdint>
+
+class Label;
+class LineShape;
+class Picture;
+class PictureButton;
+class QAction;
+class QMenu;
+
+// The game's main window: it holds all state, and every routine of the game is an operation of it.
+//
+// The window is declared here and composed in this folder; each routine is defined in the folder of its
+// subsystem. A roll lets events run while it pauses, so any handler can run in the middle of RollDice.
+class Form1 final : public QMainWindow {
+public:
+    // The parts of `platform` outlive the window. The window loads the scores and starts a game when it is
+    // first shown.
+    explicit Form1(const Platform& platform);
+
+    RollValue PendingRoll() const { return pendingRoll_; }
+    const Board& GameBoard() const { return board_; }
+    const HighScoreTable& HighScores() const { return highScores_; }
+
+    // Offers the pending roll to an empty cell, which `cell` shows; does nothing when the cell is filled or
+    // no roll is pending. Throws SubscriptError unless row and column lie in 1..5.
+    void PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column);
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    // The read-out, marker and strike line of one row or column.
+    struct LineControls {
+        Label* readOut = nullptr;
+        Picture* marker = nullptr;
+        LineShape* strike = nullptr;
+    };
+
+    // game/
+    void Form_Load();
+    void StartNewGame();
+    void RollDice();
+    void Pause();
+    void Image1_Click();
+    void imgNewGame_Click();
+    void mnuGameRoll_Click();
+    void mnuNewGame_Click();
+    void mnuGameExit_Click();
+    bool Confirm(const QString& question);
+
+    // scoring/
+    void UpdateScores();
+
+    // highscores/
+    void LoadHighScores();
+    void SaveHighScores();
+    void RecordHighScore(std::int16_t score);
+    void mnuGameHigh_Click();
+    void ShowHighScores();
+
+    // dialogs/
+    void mnuHelpHow_Click();
+    void mnuHelpAbout_Click();
+
+    // mainwindow/: composition
+    void ComposeMenus();
+    void ComposeStrikeLines(QWidget* table);
+    void ComposeCells(QWidget* table);
+    void ComposeReadOuts(QWidget* table);
+    void ComposeButtonStrip(QWidget* table);
+    void ComposeStatusBar();
+    PictureButton& Cell(std::int16_t row, std::int16_t column) const;
+    LineControls& Row(std::int16_t row);
+    LineControls& Column(std::int16_t column);
+    void SetPrompt(const QString& prompt);
+
+    // mainwindow/: layout
+    void Form_Resize();
+    void LayOutHorizontally(double outerWidth);
+    void LayOutVertically(double outerHeight);
+    void TakeUpFrame();
+    QSize OuterSize() const;
+    void SetOuterWidth(double twips);
+    void SetOuterHeight(double twips);
+
+    RollValue pendingRoll_ = 0;
+    Board board_;
+    HighScoreTable highScores_;
+
+    Platform platform_;
+    bool isLoaded_ = false;
+    bool isFrameKnown_ = false;
+    QMargins frame_;
+
+    PictureList imageList1_;
+    PictureList imageList2_;
+    PictureList rollPicture_;
+    PictureList newGamePicture_;
+    PictureList rowArrow_;
+    PictureList columnArrow_;
+
+    std::array<PictureButton*, Board::Side * Board::Side> cells_{};
+    std::array<LineControls, 2 * Board::Side> lineControls_{};
+    Picture* imgRolled1_ = nullptr;
+    Picture* imgRolled2_ = nullptr;
+    Label* lblRolled_ = nullptr;
+    PictureButton* image1_ = nullptr;
+    PictureButton* imgNewGame_ = nullptr;
+    LineShape* line1_ = nullptr;
+    Label* lblTotal_ = nullptr;
+    QAction* mnuGameRoll_ = nullptr;
+    Label* prompt_ = nullptr;
+};

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/Label.h"
+
+#include <QFontMetrics>
+
+namespace {
+
+constexpr int smallestPixelSize = 6;
+
+} // namespace
+
+Label::Label(QWidget* parent, const QFont& font, const QColor& colour, Qt::AlignmentFlag alignment)
+    : Label(parent) {
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, colour);
+    setPalette(colours);
+    setAlignment(alignment | Qt::AlignTop);
+    font_ = font;
+    setFont(font_);
+}
+
+Label::Label(QWidget* parent) : QLabel(parent), Placement(this), font_(font()) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    font_.setPixelSize(fontInfo().pixelSize());
+}
+
+void Label::SetCaption(const QString& caption) {
+    if (caption != text()) {
+        setText(caption);
+        FitText();
+    }
+}
+
+void Label::SetBackground(const QColor& colour) {
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, colour);
+    setPalette(colours);
+    setAutoFillBackground(true);
+}
+
+void Label::SetRoom(const QSize& room) {
+    room_ = room;
+    FitText();
+}
+
+void Label::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    FitText();
+}
+
+void Label::FitText() {
+    QFont fitting = font_;
+    while (fitting.pixelSize() > smallestPixelSize && !Fits(fitting)) {
+        fitting.setPixelSize(fitting.pixelSize() - 1);
+    }
+    if (fitting != font()) {
+        setFont(fitting);
+    }
+}
+
+bool Label::Fits(const QFont& font) const {
+    const QSize room = room_.isValid() ? room_ : size();
+    const QFontMetrics metrics(font);
+    const QRect needed = metrics.boundingRect(QRect(QPoint(), room), Qt::TextWordWrap, text());
+    // Below the last line's baseline only what is drawn counts: numerals need no room there.
+    const int drawnDescent = qMax(0, metrics.tightBoundingRect(text()).bottom() + 1);
+    const int height = needed.height() - metrics.descent() + qMin(drawnDescent, metrics.descent());
+    return needed.width() <= room.width() && height <= room.height();
+}

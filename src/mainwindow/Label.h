@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "mainwindow/Placement.h"
+
+#include <QLabel>
+
+// A label for plain text, wrapped within its width from the top down. Text that does not fit is made smaller
+// until it does. Clicks go through it.
+class Label final : public QLabel, public Placement {
+public:
+    Label(QWidget* parent, const QFont& font, const QColor& colour, Qt::AlignmentFlag alignment);
+
+    // Keeps the theme's font and colour.
+    explicit Label(QWidget* parent);
+
+    void SetCaption(const QString& caption);
+    QString Caption() const { return text(); }
+
+    // Fills the label with `colour`, which is transparent otherwise.
+    void SetBackground(const QColor& colour);
+
+    // Bounds the text more closely than the label does: what lies beyond is covered by another control.
+    void SetRoom(const QSize& room);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void FitText();
+    bool Fits(const QFont& font) const;
+
+    QFont font_;
+    QSize room_;
+};

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "mainwindow/Placement.h"
+#include "pictures/PictureList.h"
+
+#include <QAbstractButton>
+#include <QWidget>
+
+#include <cstdint>
+
+// Which picture a control shows, and how it is put on the screen: filling the control, on whole device
+// pixels.
+class PictureFace {
+public:
+    explicit PictureFace(QWidget* control) : control_(control) {}
+
+    // `list` outlives the control. Throws SubscriptError when it has no such picture.
+    void SetPicture(const PictureList& list, std::int16_t index);
+
+    // The shown picture's index in its list; 0 before any is set.
+    std::int16_t Index() const { return index_; }
+
+protected:
+    void PaintFace() const;
+
+private:
+    QWidget* control_;
+    const PictureList* list_ = nullptr;
+    std::int16_t index_ = 0;
+};
+
+// A picture to look at. Clicks go through it.
+class Picture final : public QWidget, public Placement, public PictureFace {
+public:
+    explicit Picture(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+// A picture to click: with the left button, released inside the picture.
+class PictureButton final : public QAbstractButton, public Placement, public PictureFace {
+public:
+    explicit PictureButton(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};

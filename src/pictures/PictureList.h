@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QObject>
+#include <QPixmap>
+#include <QSize>
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+// Pictures of one kind, looked up by index, 1..Count(); any other index throws SubscriptError.
+//
+// Each exists twice: as the list holds it, in its own size, and as a larger rendering for screens with more
+// pixels. Both are read when they are first asked for.
+class PictureList final : public QObject {
+public:
+    // The pictures :/pictures/<stem>1.<suffix> to <stem><count>.<suffix>, their larger renderings
+    // :/pictures/large/<stem>1.png and so on.
+    PictureList(const QString& stem, const QString& suffix, std::int16_t count, QObject* parent = nullptr);
+
+    // A list of a single picture, :/pictures/<name>.<suffix>.
+    PictureList(const QString& name, const QString& suffix, QObject* parent = nullptr);
+
+    std::int16_t Count() const { return static_cast<std::int16_t>(entries_.size()); }
+
+    // The picture as the list holds it.
+    const QImage& Image(std::int16_t index) const;
+
+    // The picture drawn in exactly `size` device pixels, as sharp as can be.
+    QPixmap Rendering(std::int16_t index, const QSize& size) const;
+
+private:
+    struct Entry {
+        QString fileName;
+        QString largeFileName;
+        mutable QImage image;
+        mutable QHash<QSize, QPixmap> renderings;
+    };
+
+    const Entry& At(std::int16_t index) const;
+
+    std::vector<Entry> entries_;
+};

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/IniText.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The character that the escape at the front of `rest` stands for; `length` becomes the length of the escape.
+QChar Unescape(QStringView rest, qsizetype& length) {
+    length = 2;
+    switch (rest.at(1).unicode()) {
+    case 'n':
+        return u'\n';
+    case 'r':
+        return u'\r';
+    case 't':
+        return u'\t';
+    case 'x': {
+        bool isNumber = false;
+        const ushort code = rest.mid(2, 4).toUShort(&isNumber, 16);
+        if (rest.size() >= 6 && isNumber) {
+            length = 6;
+            return QChar(code);
+        }
+        return u'x';
+    }
+    default:
+        return rest.at(1);
+    }
+}
+
+// The text inside the quotes, or nothing when the value is not one quoted text as a whole.
+std::optional<QString> Unquote(QStringView value) {
+    if (!value.startsWith(u'"')) {
+        return std::nullopt;
+    }
+    QString text;
+    for (qsizetype at = 1, length = 1; at < value.size(); at += length) {
+        length = 1;
+        const QChar c = value.at(at);
+        if (c == u'"') {
+            return at == value.size() - 1 ? std::optional(text) : std::nullopt;
+        }
+        text += c == u'\\' && at + 1 < value.size() ? Unescape(value.sliced(at), length) : c;
+    }
+    return std::nullopt;
+}
+
+bool IsControl(QChar c) {
+    return c.category() == QChar::Other_Control;
+}
+
+QString Quote(const QString& text) {
+    QString quoted = u"\""_s;
+    for (const QChar c : text) {
+        if (c == u'"' || c == u'\\') {
+            quoted += u'\\';
+            quoted += c;
+        } else if (IsControl(c) || c.isSurrogate()) {
+            quoted += u"\\x%1"_s.arg(c.unicode(), 4, 16, QLatin1Char('0'));
+        } else {
+            quoted += c;
+        }
+    }
+    return quoted + u'"';
+}
+
+QString ComposeValue(const QString& text) {
+    const bool isPlain = text == text.trimmed() && !text.startsWith(u'"') && text.isValidUtf16()
+                         && std::ranges::none_of(text, IsControl);
+    return isPlain ? text : Quote(text);
+}
+
+} // namespace
+
+QSettings::SettingsMap ParseIni(const QString& text) {
+    QSettings::SettingsMap map;
+    QString section;
+    for (const QStringView rawLine : QStringView(text).split(u'\n')) {
+        const QStringView line = rawLine.trimmed();
+        if (line.startsWith(u'[') && line.endsWith(u']')) {
+            const QString name = line.sliced(1, line.size() - 2).toString();
+            section = name.isEmpty() ? name : name + u'/';
+            continue;
+        }
+        const qsizetype equals = line.indexOf(u'=');
+        if (equals < 0 || line.startsWith(u';') || line.startsWith(u'#')) {
+            continue;
+        }
+        const QStringView key = line.first(equals).trimmed();
+        const QStringView value = line.sliced(equals + 1).trimmed();
+        map.insert(section + key.toString(), Unquote(value).value_or(value.toString()));
+    }
+    return map;
+}
+
+QString ComposeIni(const QSettings::SettingsMap& map) {
+    QString text;
+    QString section;
+    for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
+        const qsizetype slash = entry.key().indexOf(u'/');
+        const QString entrySection = entry.key().first(qMax<qsizetype>(slash, 0));
+        if (entrySection != section) {
+            section = entrySection;
+            text += u'[' + section + u"]\n"_s;
+        }
+        text += entry.key().sliced(slash + 1) + u'=' + ComposeValue(entry.value().toString()) + u'\n';
+    }
+    return text;
+}

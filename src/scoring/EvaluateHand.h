@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "game/RollValue.h"
+
+#include <cstdint>
+
+// The points of a line of five values as a dice-poker hand: 0, 5, 10, 15, 20, 25, 30, 40 or 50. The order of
+// the values does not matter, and two pair beats three of a kind: that is this game's own rule.
+//
+// Meant for complete lines, whose values lie in 2..12. Any other value takes part in the straights and in
+// five of a kind but is never counted, so five zeros score 50; throws OverflowError when a straight reaches
+// past the 16-bit range.
+std::int16_t EvaluateHand(RollValue a, RollValue b, RollValue c, RollValue d, RollValue e);

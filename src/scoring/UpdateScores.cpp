@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/Form1.h"
+#include "mainwindow/Label.h"
+#include "mainwindow/LineShape.h"
+#include "mainwindow/Picture.h"
+#include "mainwindow/Prompts.h"
+#include "platform/Int16.h"
+#include "scoring/BoardLines.h"
+
+#include <QAction>
+
+void Form1::UpdateScores() {
+    std::int16_t total = 0;
+    for (std::size_t at = 0; at < boardLines.size(); ++at) {
+        const auto score = ScoreLine(boardLines[at], board_);
+        const LineControls& controls = lineControls_[at];
+        if (score) {
+            controls.readOut->SetCaption(QString::number(*score));
+        }
+        controls.readOut->setVisible(score.has_value());
+        controls.marker->setVisible(score.has_value());
+        controls.strike->setVisible(score.has_value());
+        total = CheckedAdd(total, score.value_or(0));
+    }
+    lblTotal_->SetCaption(QString::number(total));
+
+    if (!board_.IsFull()) {
+        SetPrompt(Prompts::roll);
+        return;
+    }
+    SetPrompt(Prompts::over);
+    image1_->hide();
+    mnuGameRoll_->setEnabled(false);
+    RecordHighScore(total);
+}
