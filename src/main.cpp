@@ -10,8 +10,26 @@
 
 #include <QApplication>
 
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+// Qt answers a missing display with a core dump.
+void ExplainFatal(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type == QtFatalMsg) {
+        std::fputs("kelvaro: there is no display to open a window on\n", stderr);
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
+} // namespace
+
 int main(int argc, char* argv[]) {
+    const QtMessageHandler standardHandler = qInstallMessageHandler(ExplainFatal);
     QApplication application(argc, argv);
+    qInstallMessageHandler(standardHandler);
+
     SystemClock clock;
     EntropyGenerator generator;
     QtEventPump pump;

@@ -3,6 +3,7 @@
 
 #include "dialogs/GreenDialog.h"
 
+#include "mainwindow/Geometry.h"
 #include "mainwindow/Label.h"
 
 #include <QKeyEvent>
@@ -42,10 +43,8 @@ GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSiz
 void GreenDialog::ShowModal(const QWidget& window) {
     winId();
     windowHandle()->setTransientParent(window.windowHandle());
-    const QRect screenArea = window.screen()->geometry();
-    const QMargins frame = window.windowHandle()->frameMargins();
-    const QSize outer = size().grownBy(frame);
-    move(screenArea.center() - QPoint(outer.width() / 2, outer.height() / 2));
+    const QSize outer = size().grownBy(window.windowHandle()->frameMargins());
+    move(CentredOn(window.screen()->geometry(), outer));
     exec();
 }
 

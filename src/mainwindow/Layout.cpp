@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mainwindow/Form1.h"
+#include "mainwindow/Geometry.h"
 #include "mainwindow/Label.h"
 #include "mainwindow/LineShape.h"
 #include "mainwindow/Picture.h"
@@ -126,9 +127,7 @@ void Form1::TakeUpFrame() {
     windowHandle()->setMinimumSize(minimum.shrunkBy(frame_));
     Form_Resize();
     if (isFirstPicture) {
-        const QSize outer = OuterSize();
-        const QRect screenArea = screen()->geometry();
-        windowHandle()->setFramePosition(screenArea.center() - QPoint(outer.width() / 2, outer.height() / 2));
+        windowHandle()->setFramePosition(CentredOn(screen()->geometry(), OuterSize()));
     }
 }
 

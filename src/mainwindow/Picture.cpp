@@ -30,8 +30,7 @@ void PictureFace::PaintFace() const {
     QPainter(control_).drawPixmap(snapped - corner, pixmap);
 }
 
-Picture::Picture(QWidget* parent)
-    : QWidget(parent), Placement(this), PictureFace(this) {
+Picture::Picture(QWidget* parent) : QWidget(parent), Placement(this), PictureFace(this) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -39,8 +38,7 @@ void Picture::paintEvent(QPaintEvent*) {
     PaintFace();
 }
 
-PictureButton::PictureButton(QWidget* parent)
-    : QAbstractButton(parent), Placement(this), PictureFace(this) {
+PictureButton::PictureButton(QWidget* parent) : QAbstractButton(parent), Placement(this), PictureFace(this) {
     setFocusPolicy(Qt::NoFocus);
 }
 

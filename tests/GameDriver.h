@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Fakes.h"
+#include "mainwindow/Form1.h"
+#include "mainwindow/Label.h"
+#include "mainwindow/Picture.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+
+// The real window on a scripted platform, driven by the names of its controls.
+struct GameDriver {
+    FakePlatform platform;
+    Form1 form{platform};
+
+    GameDriver() {
+        form.show();
+        form.activateWindow();
+        if (!QTest::qWaitForWindowExposed(&form) || !QTest::qWaitForWindowActive(&form)) {
+            qFatal("the window was never shown");
+        }
+    }
+
+    template <typename Control = QWidget> Control& Find(const QString& name) const {
+        auto* found = dynamic_cast<Control*>(form.findChild<QObject*>(name));
+        if (found == nullptr) {
+            qFatal("no control named %s", qPrintable(name));
+        }
+        return *found;
+    }
+
+    QString Caption(const QString& name) const { return Find<Label>(name).Caption(); }
+    bool IsShown(const QString& name) const { return Find(name).isVisible(); }
+    bool CanRoll() const { return IsShown("Image1") && Find<QAction>("mnuGameRoll").isEnabled(); }
+    QString Prompt() const { return Find<QStatusBar>("StatusBar1").findChild<QLabel*>()->text(); }
+
+    void Click(const QString& name) { QTest::mouseClick(&Find(name), Qt::LeftButton); }
+    void Choose(const QString& name) {
+        QVERIFY2(Find<QAction>(name).isEnabled(), qPrintable(name));
+        Find<QAction>(name).trigger();
+    }
+    static QString CellName(int row, int column) { return QString("img%1_%2").arg(row).arg(column); }
+
+    void Roll(int firstDie, int secondDie) {
+        platform.generator.dice = {firstDie, secondDie};
+        Click("Image1");
+    }
+    void Place(int value, int row, int column) {
+        Roll(value / 2, value - value / 2);
+        Click(CellName(row, column));
+    }
+    // Fills the board from a text like "7 7 5 - 2 / ...", a row after the other, "-" leaving a cell empty.
+    void Fill(const QString& board) {
+        const QStringList rows = board.split(" / ");
+        for (int row = 1; row <= rows.size(); ++row) {
+            const QStringList values = rows[row - 1].split(' ');
+            for (int column = 1; column <= values.size(); ++column) {
+                if (values[column - 1] != "-") {
+                    Place(values[column - 1].toInt(), row, column);
+                }
+            }
+        }
+    }
+    QString BoardText() const {
+        QStringList rows;
+        for (std::int16_t row = 1; row <= Board::Side; ++row) {
+            QStringList values;
+            for (std::int16_t column = 1; column <= Board::Side; ++column) {
+                const RollValue value = form.GameBoard().At(row, column);
+                values << (value == 0 ? "-" : QString::number(value));
+            }
+            rows << values.join(' ');
+        }
+        return rows.join(" / ");
+    }
+
+    // Runs `act` on the dialog or message box that `open` shows, and closes what `act` left open.
+    template <typename Open, typename Act> static void InDialog(Open open, Act act) {
+        bool wasShown = false;
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, [&] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                dialog && dialog->isActiveWindow() && !wasShown) {
+                wasShown = true;
+                act(*dialog);
+                dialog->close();
+            }
+        });
+        watch.start(0);
+        open();
+        QVERIFY2(wasShown, "no dialog was shown");
+    }
+};

@@ -1,0 +1,262 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "GameDriver.h"
+#include "highscores/DateTimeText.h"
+#include "highscores/HighScoreTable.h"
+#include "highscores/ScoreText.h"
+#include "platform/IniSettingsStore.h"
+#include "platform/Int16.h"
+
+#include <QFile>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int keeps = 99'999;
+
+QString TableText(const HighScoreTable& table) {
+    QStringList entries;
+    for (std::int16_t rank = 1; rank <= HighScoreTable::Ranks; ++rank) {
+        entries << table.Caption(rank);
+    }
+    return entries.join('|');
+}
+
+HighScoreTable TableOf(std::initializer_list<int> scores) {
+    HighScoreTable table;
+    std::int16_t rank = 1;
+    for (const int score : scores) {
+        table.Set(rank, static_cast<std::int16_t>(score), QString(QChar('a' + rank - 1)));
+        ++rank;
+    }
+    return table;
+}
+
+void WriteFile(const QString& name, const QByteArray& bytes) {
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+} // namespace
+
+class tst_highscores : public QObject {
+    Q_OBJECT
+
+private slots:
+    void scoreTexts_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("score");
+        const std::initializer_list<std::pair<const char*, int>> rows{
+            {"", 0},           {"120", 120},     {"-7", -7},         {"+7", 7},
+            {" 1 2 ", 12},     {"- 7", -7},      {"abc", 0},         {"12abc34", 12},
+            {"12.5", 12},      {"13.5", 14},     {"-12.5", -12},     {"-13.5", -14},
+            {"12.51", 13},     {".5", 0},        {"1.5.9", 2},       {"2.50000000000000000001", 3},
+            {"40000", keeps},  {"32767", 32767}, {"32767.5", keeps}, {"-32768.5", -32768},
+            {"-32769", keeps}, {"1e3", 1},       {"1,000", 1},       {"&H10", 0},
+            {"--5", 0},        {"\t1\r\n2", 12}, {"0x10", 0},        {"999999999999999999999", keeps},
+        };
+        for (const auto& [text, score] : rows) {
+            QTest::newRow(text) << text << score;
+        }
+    }
+    void scoreTexts() {
+        QFETCH(QString, text);
+        const auto score = ReadScore(text);
+        QTEST(score ? int{*score} : keeps, "score");
+    }
+
+    void dateTimeTexts() {
+        FakeClock clock;
+        QCOMPARE(DateTimeText(clock), "2026/1/5 9:05");
+        clock.month = 12;
+        clock.day = 31;
+        clock.hour = 0;
+        clock.minute = 59;
+        QCOMPARE(DateTimeText(clock), "2026/12/31 0:59");
+        QCOMPARE(TwoDigits(-5), "0-5");
+    }
+
+    void entering_data() {
+        QTest::addColumn<int>("score");
+        QTest::addColumn<QString>("table");
+        QTest::newRow("best") << 60 << "60  new|50  a|40  b|30  c|20  d";
+        QTest::newRow("tie goes below the older entry") << 30 << "50  a|40  b|30  c|30  new|20  d";
+        QTest::newRow("last rank") << 15 << "50  a|40  b|30  c|20  d|15  new";
+        QTest::newRow("tie with the last does not enter") << 10 << "50  a|40  b|30  c|20  d|10  e";
+    }
+    void entering() {
+        QFETCH(int, score);
+        HighScoreTable table = TableOf({50, 40, 30, 20, 10});
+        if (const auto rank = table.RankFor(static_cast<std::int16_t>(score))) {
+            table.MakeRoomAt(*rank);
+            table.Set(*rank, static_cast<std::int16_t>(score), "new");
+        }
+        QTEST(TableText(table), "table");
+        QVERIFY_THROWS_EXCEPTION(SubscriptError, table.Score(0));
+        QVERIFY_THROWS_EXCEPTION(SubscriptError, table.Text(6));
+    }
+
+    void loadingKeepsWhatCannotBeRead() {
+        FakeStore store;
+        store.texts = {
+            {"HighScores/Score1", "12.5"}, {"HighScores/Score2", "40000"}, {"HighScores/User2", "x"}};
+        HighScoreTable table = TableOf({50, 40, 30, 20, 10});
+        table.Load(store);
+        QCOMPARE(TableText(table), "12  |40  x|0  |0  |0  ");
+        store.isReadable = false;
+        store.texts.clear();
+        table.Load(store);
+        QCOMPARE(TableText(table), "12  |40  x|0  |0  |0  ");
+    }
+
+    // Every round writes all ten keys, whether or not its score enters the table.
+    void worthlessRoundIsSavedWithoutADialog() {
+        GameDriver game;
+        game.Fill("2 4 6 8 10 / 4 6 8 10 12 / 6 8 10 12 3 / 8 10 12 3 5 / 10 12 3 5 7");
+        QCOMPARE(game.Caption("lblTotal"), "0");
+        QCOMPARE(game.Prompt(), "Game Over!");
+        QCOMPARE(game.platform.store.writes.join(' '),
+                 "Score1=0 Score2=0 Score3=0 Score4=0 Score5=0 User1= User2= User3= User4= User5=");
+    }
+
+    void resetIsUndoneByTheNextRound() {
+        GameDriver game;
+        FakeStore& store = game.platform.store;
+        store.texts = {{"HighScores/Score1", "400"}, {"HighScores/User1", "<b>a</b>, \"b\"; @c"}};
+        const auto caption = [](QDialog& dialog) {
+            return dialog.findChild<QLabel*>("lblHighScore(0)")->text();
+        };
+        const auto reset = [&](QDialog& dialog) {
+            QCOMPARE(caption(dialog), "400  <b>a</b>, \"b\"; @c");
+            QCOMPARE(dialog.findChild<QLabel*>("lblHighScore(0)")->textFormat(), Qt::PlainText);
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(dialog.focusWidget()->objectName(), "OKButton");
+            dialog.findChild<QPushButton*>("CancelButton")->click();
+            QVERIFY(!dialog.isVisible());
+        };
+        const auto open = [&] { game.Choose("mnuGameHigh"); };
+        GameDriver::InDialog(open, reset);
+        QCOMPARE(store.writes.join(' '),
+                 "Score1=0 Score2=0 Score3=0 Score4=0 Score5=0 User1= User2= User3= User4= User5=");
+
+        game.Fill("7 7 7 7 7 / 4 6 8 10 12 / 6 8 10 12 3 / 8 10 12 3 5");
+        game.Fill("- / - / - / - / 10 12 3 5");
+        GameDriver::InDialog([&] { game.Place(7, 5, 5); },
+                             [&](QDialog& dialog) {
+                                 QCOMPARE(dialog.findChild<QLabel*>("lblHighScore(1)")->text(),
+                                          game.Caption("lblTotal") + "  2026/1/5 9:05");
+                                 dialog.close();
+                             });
+        QCOMPARE(store.texts["HighScores/Score1"], "400");
+
+        GameDriver::InDialog(open, reset);
+        GameDriver::InDialog(open, [&](QDialog& dialog) {
+            QCOMPARE(caption(dialog), "0  ");
+            dialog.close();
+        });
+    }
+
+    // Whatever is written comes back, also through another program's eyes on the same file.
+    void textsComeBackToTheLetter_data() {
+        QTest::addColumn<QString>("text");
+        for (const char* text : {"2026/1/5 9:05", "a, b; c", "\"quoted\"", "\"a\" b\"", "@Invalid()", "@@x",
+                                 "\\x41 \\", " blanks around ", "<b>bold</b>", "= [x] #",
+                                 "line\nbreak\r\t\x01", "\xf0\x9f\x8e\xb2 \xc3\xa9", "\""}) {
+            QTest::newRow(text) << QString::fromUtf8(text);
+        }
+        QTest::newRow("10 kB") << QString(10'000, 'x');
+        QTest::newRow("half a surrogate pair and a NUL") << QString(QChar(0xd83d)) + QChar(0);
+    }
+    void textsComeBackToTheLetter() {
+        QFETCH(QString, text);
+        const QTemporaryDir folder;
+        const QString name = folder.filePath("deep/KVR.ini");
+        HighScoreTable table = TableOf({5, 4, 3, 2, 1});
+        table.Set(2, 4, text);
+        IniSettingsStore store(name);
+        table.Load(store);
+        table.Set(2, 4, text);
+        table.Save(store);
+        IniSettingsStore other(name);
+        HighScoreTable copy;
+        copy.Load(other);
+        QCOMPARE(copy.Text(2), text);
+    }
+
+    void foreignFiles_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("table");
+        QTest::newRow("empty") << QByteArray() << "0  |0  |0  |0  |0  ";
+        QTest::newRow("as a person writes it") << QByteArray(
+            "\xef\xbb\xbf; mine\r\n[Other]\nScore1=9\n[HighScores]\r\nScore1 = 12.5\r\nUser1=a, b; \"c\" "
+            "\\d\n"
+            "Score2=\" 1 2 \"\nUser2=@home\nScore3=40000\nUser3=\"x\\x41\"\nScore4=abc\nnonsense\nScore4=-7")
+                                               << "12  a, b; \"c\" \\d|12  @home|0  xA|-7  |0  ";
+        QTest::newRow("unfinished") << QByteArray("[HighScores]\nScore1=7\nUser1=\"abc\\\"")
+                                    << "7  \"abc\\\"|0  |0  |0  |0  ";
+        QTest::newRow("NULs and bad UTF-8") << QByteArray("\0\xff[HighScores]\n\xc3\nScore1=\0"
+                                                          "5\n",
+                                                          29)
+                                            << "0  |0  |0  |0  |0  ";
+    }
+    void foreignFiles() {
+        QFETCH(QByteArray, bytes);
+        const QTemporaryDir folder;
+        const QString name = folder.filePath("KVR.ini");
+        WriteFile(name, bytes);
+        IniSettingsStore store(name);
+        HighScoreTable table;
+        table.Load(store);
+        QTEST(TableText(table), "table");
+        table.Set(1, 8, "saved");
+        table.Save(store);
+        IniSettingsStore other(name);
+        table.Load(other);
+        QVERIFY(TableText(table).startsWith("8  saved|"));
+    }
+
+    void randomFilesDoNoHarm() {
+        QRandomGenerator random(20261121);
+        const QTemporaryDir folder;
+        const QByteArray alphabet("\"\\[]=;#@, \n\r\t\0x41SHighScores/1User2\xff\xc3", 44);
+        for (int round = 0; round < 200; ++round) {
+            QByteArray bytes("[HighScores]\n");
+            for (int length = random.bounded(300); length > 0; --length) {
+                bytes += alphabet[random.bounded(alphabet.size())];
+            }
+            const QString name = folder.filePath(QString::number(round));
+            WriteFile(name, bytes);
+            IniSettingsStore store(name);
+            HighScoreTable table;
+            table.Load(store);
+            table.Save(store);
+            IniSettingsStore other(name);
+            HighScoreTable copy;
+            copy.Load(other);
+            QCOMPARE(TableText(copy), TableText(table));
+        }
+    }
+
+    void thingsThatAreNoFile() {
+        const QTemporaryDir folder;
+        const QString pipe = folder.filePath("pipe");
+        QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+        for (const QString& name : {folder.path(), pipe, pipe + "/below"}) {
+            IniSettingsStore store(name);
+            HighScoreTable table = TableOf({5, 4, 3, 2, 1});
+            table.Save(store);
+            table.Load(store);
+            QCOMPARE(TableText(table), "5  a|4  b|3  c|2  d|1  e");
+        }
+    }
+};
+
+QTEST_MAIN(tst_highscores)
+#include "tst_highscores.moc"
