@@ -36,7 +36,7 @@ QSize RoomWithin(const QRect& place, const QWidget& control, const QWidget& dial
 GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSize& clientSize) {
     setObjectName(name);
     setWindowTitle(caption);
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setFixedSize(clientSize);
 }
 

@@ -25,8 +25,8 @@ void LineShape::Move(double& coordinate, double value) {
 }
 
 void LineShape::Apply() {
-    const auto [left, right] = std::minmax(ToPixels(ends_.x1), ToPixels(ends_.x2));
-    const auto [top, bottom] = std::minmax(ToPixels(ends_.y1), ToPixels(ends_.y2));
+    const auto [left, right] = std::minmax({ToPixels(ends_.x1), ToPixels(ends_.x2)});
+    const auto [top, bottom] = std::minmax({ToPixels(ends_.y1), ToPixels(ends_.y2)});
     // While a line is moved end by end it is slanted for a moment; the longer extent tells its direction even
     // then.
     if (right - left >= bottom - top) {

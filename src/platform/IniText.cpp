@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cctype>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -23,13 +24,10 @@ QChar Unescape(QStringView rest, qsizetype& length) {
     case 't':
         return u'\t';
     case 'x': {
-        bool isNumber = false;
-        const ushort code = rest.mid(2, 4).toUShort(&isNumber, 16);
-        if (rest.size() >= 6 && isNumber) {
-            length = 6;
-            return QChar(code);
+        while (length < qMin<qsizetype>(6, rest.size()) && std::isxdigit(rest.at(length).toLatin1())) {
+            ++length;
         }
-        return u'x';
+        return length == 2 ? QChar(u'x') : QChar(rest.sliced(2, length - 2).toUShort(nullptr, 16));
     }
     default:
         return rest.at(1);

@@ -11,8 +11,8 @@
 //
 // A value is everything behind the first "=", without the blanks around it, to the letter: commas,
 // semicolons, backslashes, a leading @ and stray quotes mean nothing. Only a value that is one quoted text as
-// a whole, "like \"this\"", loses its quotes and has its escapes (\" \\ \n \r \t and \xHHHH) undone. What is
-// no line of that kind is passed over; of two lines with the same key the last holds.
+// a whole, "like \"this\"", loses its quotes and has its escapes (\" \\ \n \r \t and \x with one to four hex
+// digits) undone. What is no line of that kind is passed over; of two lines with the same key the last holds.
 QSettings::SettingsMap ParseIni(const QString& text);
 
 // Parsing the result gives `map` again, whatever its texts hold.
