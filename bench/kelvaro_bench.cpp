@@ -25,9 +25,7 @@ namespace {
 // Its scores cannot be beaten, so that a round ends without a dialog.
 struct UnbeatableStore final : SettingsStore {
     void Refresh() override {}
-    std::optional<QString> Read(const QString&, const QString&, const QString&) override {
-        return u"32767"_s;
-    }
+    std::optional<QString> Read(const QString&, const QString&, const QString&) override { return u"32767"_s; }
     void Write(const QString&, const QString&, const QString&) override {}
     void Commit() override {}
 };
@@ -54,9 +52,7 @@ struct Game {
     }
 
     void Roll() { form.findChild<QAction*>(u"mnuGameRoll"_s)->trigger(); }
-    void Click(int row, int column) {
-        form.findChild<QAbstractButton*>(u"img%1_%2"_s.arg(row).arg(column))->click();
-    }
+    void Click(int row, int column) { form.findChild<QAbstractButton*>(u"img%1_%2"_s.arg(row).arg(column))->click(); }
 };
 
 } // namespace

@@ -68,8 +68,7 @@ struct FakeStore final : SettingsStore {
     bool isReadable = true;
 
     void Refresh() override {}
-    std::optional<QString> Read(const QString& section, const QString& key,
-                                const QString& fallback) override {
+    std::optional<QString> Read(const QString& section, const QString& key, const QString& fallback) override {
         return isReadable ? std::optional(texts.value(section + u'/' + key, fallback)) : std::nullopt;
     }
     void Write(const QString& section, const QString& key, const QString& text) override {

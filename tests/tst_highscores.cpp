@@ -104,8 +104,7 @@ private slots:
 
     void loadingKeepsWhatCannotBeRead() {
         FakeStore store;
-        store.texts = {
-            {"HighScores/Score1", "12.5"}, {"HighScores/Score2", "40000"}, {"HighScores/User2", "x"}};
+        store.texts = {{"HighScores/Score1", "12.5"}, {"HighScores/Score2", "40000"}, {"HighScores/User2", "x"}};
         HighScoreTable table = TableOf({50, 40, 30, 20, 10});
         table.Load(store);
         QCOMPARE(TableText(table), "12  |40  x|0  |0  |0  ");
@@ -129,9 +128,7 @@ private slots:
         GameDriver game;
         FakeStore& store = game.platform.store;
         store.texts = {{"HighScores/Score1", "400"}, {"HighScores/User1", "<b>a</b>, \"b\"; @c"}};
-        const auto caption = [](QDialog& dialog) {
-            return dialog.findChild<QLabel*>("lblHighScore(0)")->text();
-        };
+        const auto caption = [](QDialog& dialog) { return dialog.findChild<QLabel*>("lblHighScore(0)")->text(); };
         const auto reset = [&](QDialog& dialog) {
             QCOMPARE(caption(dialog), "400  <b>a</b>, \"b\"; @c");
             QCOMPARE(dialog.findChild<QLabel*>("lblHighScore(0)")->textFormat(), Qt::PlainText);
@@ -166,9 +163,9 @@ private slots:
     // Whatever is written comes back, also through another program's eyes on the same file.
     void textsComeBackToTheLetter_data() {
         QTest::addColumn<QString>("text");
-        for (const char* text : {"2026/1/5 9:05", "a, b; c", "\"quoted\"", "\"a\" b\"", "@Invalid()", "@@x",
-                                 "\\x41 \\", " blanks around ", "<b>bold</b>", "= [x] #",
-                                 "line\nbreak\r\t\x01", "\xf0\x9f\x8e\xb2 \xc3\xa9", "\""}) {
+        for (const char* text :
+             {"2026/1/5 9:05", "a, b; c", "\"quoted\"", "\"a\" b\"", "@Invalid()", "@@x", "\\x41 \\", " blanks around ",
+              "<b>bold</b>", "= [x] #", "line\nbreak\r\t\x01", "\xf0\x9f\x8e\xb2 \xc3\xa9", "\""}) {
             QTest::newRow(text) << QString::fromUtf8(text);
         }
         QTest::newRow("10 kB") << QString(10'000, 'x');
@@ -195,16 +192,14 @@ private slots:
         QTest::addColumn<QString>("table");
         QTest::newRow("empty") << QByteArray() << "0  |0  |0  |0  |0  ";
         QTest::newRow("as a person writes it") << QByteArray(
-            "\xef\xbb\xbf; mine\r\n[Other]\nScore1=9\n[HighScores]\r\nScore1 = 12.5\r\nUser1=a, b; \"c\" "
-            "\\d\n"
+            "\xef\xbb\xbf; mine\r\n[Other]\nScore1=9\n[HighScores]\r\nScore1 = 12.5\r\nUser1=a, b; \"c\" \\d\n"
             "Score2=\" 1 2 \"\nUser2=@home\nScore3=40000\nUser3=\"x\\x41\"\nScore4=abc\nnonsense\nScore4=-7")
                                                << "12  a, b; \"c\" \\d|12  @home|0  xA|-7  |0  ";
         QTest::newRow("unfinished") << QByteArray("[HighScores]\nScore1=7\nUser1=\"abc\\\"")
                                     << "7  \"abc\\\"|0  |0  |0  |0  ";
-        QTest::newRow("NULs and bad UTF-8") << QByteArray("\0\xff[HighScores]\n\xc3\nScore1=\0"
-                                                          "5\n",
-                                                          29)
-                                            << "0  |0  |0  |0  |0  ";
+        QTest::newRow("bad UTF-8") << QByteArray("\xff[HighScores]\n\xc3\nScore1=5\n[HighScores]\nScore2=\xc3"
+                                                 "5")
+                                   << "0  |0  |0  |0  |0  ";
     }
     void foreignFiles() {
         QFETCH(QByteArray, bytes);
@@ -225,7 +220,7 @@ private slots:
     void randomFilesDoNoHarm() {
         QRandomGenerator random(20261121);
         const QTemporaryDir folder;
-        const QByteArray alphabet("\"\\[]=;#@, \n\r\t\0x41SHighScores/1User2\xff\xc3", 44);
+        const QByteArray alphabet = QByteArray("\"\\[]=;#@, \n\r\tx41SHighScores/1User2\xff\xc3") + '\0';
         for (int round = 0; round < 200; ++round) {
             QByteArray bytes("[HighScores]\n");
             for (int length = random.bounded(300); length > 0; --length) {

@@ -37,10 +37,9 @@ private slots:
                 entries << entry->objectName() + ' ' + entry->text() + ' ' + entry->shortcut().toString();
             }
         }
-        QCOMPARE(entries,
-                 QStringList({"mnuGame &Game", "mnuNewGame &New Game Ctrl+N", "mnuGameRoll &Roll Dice Ctrl+R",
-                              "mnuGameHigh High Scores ", "mnuspace  ", "mnuGameExit E&xit Ctrl+Q",
-                              "mnuHelp &Help", "mnuHelpHow How To Play F1", "mnuHelpAbout &About Kelvaro "}));
+        QCOMPARE(entries, QStringList({"mnuGame &Game", "mnuNewGame &New Game Ctrl+N", "mnuGameRoll &Roll Dice Ctrl+R",
+                                       "mnuGameHigh High Scores ", "mnuspace  ", "mnuGameExit E&xit Ctrl+Q",
+                                       "mnuHelp &Help", "mnuHelpHow How To Play F1", "mnuHelpAbout &About Kelvaro "}));
         QVERIFY(game.Find<QAction>("mnuspace").isSeparator());
         QStatusTipEvent tip("not a prompt");
         QApplication::sendEvent(&game.form, &tip);
@@ -71,17 +70,15 @@ private slots:
                                    << Names{{"img3_2", 1085},   {"img1_5", 3620},   {"lbl_row4", 4765},
                                             {"lblTotal", 4765}, {"img_row1", 4220}, {"imgNewGame", 3055},
                                             {"Image1", 0},      {"lbl_col4", 2775}}
-                                   << Names{
-                                          {"img2_1", 1215.83},   {"img5_5", 3783.33},   {"lbl_row2", 1455.83},
-                                          {"lbl_row3", 2311.67}, {"lbl_row4", 3167.5},  {"lbl_row5", 4043.33},
-                                          {"lbl_col1", 5114.17}, {"lblTotal", 5039.17}, {"img_col3", 4383.33},
-                                          {"Image1", 5715},      {"imgRolled2", 5815},  {"lblRolled", 5815},
-                                          {"img_row3", 2071.67}};
+                                   << Names{{"img2_1", 1215.83},   {"img5_5", 3783.33},   {"lbl_row2", 1455.83},
+                                            {"lbl_row3", 2311.67}, {"lbl_row4", 3167.5},  {"lbl_row5", 4043.33},
+                                            {"lbl_col1", 5114.17}, {"lblTotal", 5039.17}, {"img_col3", 4383.33},
+                                            {"Image1", 5715},      {"imgRolled2", 5815},  {"lblRolled", 5815},
+                                            {"img_row3", 2071.67}};
         QTest::newRow("9000 by 10005 twips")
-            << QSize(600, 667)
-            << Names{{"img3_2", 1540},   {"img1_5", 5440},     {"lbl_row4", 7040},
-                     {"img_row1", 6040}, {"imgNewGame", 3235}, {"img_col2", 1540 + 375 - 360},
-                     {"img_col1", 240}}
+            << QSize(600, 667) << Names{{"img3_2", 1540},   {"img1_5", 5440},     {"lbl_row4", 7040},
+                                        {"img_row1", 6040}, {"imgNewGame", 3235}, {"img_col2", 1540 + 375 - 360},
+                                        {"img_col1", 240}}
             << Names{{"img2_1", 1530.83},   {"img5_5", 5043.33}, {"lbl_row5", 5304.17},
                      {"lbl_col1", 6689.17}, {"Image1", 7605},    {"imgRolled2", 7705}};
     }
@@ -150,25 +147,24 @@ private slots:
         QFETCH(bool, escapeCloses);
         QFETCH(QString, entry);
         GameDriver game;
-        GameDriver::InDialog(
-            [&] { game.Choose(entry); },
-            [&](QDialog& dialog) {
-                QTEST(dialog.objectName(), "name");
-                QTEST(dialog.windowTitle(), "caption");
-                QTEST(dialog.size(), "size");
-                QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
-                QVERIFY(dialog.parentWidget() == nullptr && dialog.isModal());
-                QCOMPARE(dialog.grab().toImage().pixelColor(3, 3), QColor(0, 128, 0));
-                // The copyright line is the last label of the shortest dialog: none may be covered.
-                for (const QLabel* label : dialog.findChildren<QLabel*>()) {
-                    const QFontMetrics metrics(label->font());
-                    const bool wraps = metrics.horizontalAdvance(label->text()) > label->width();
-                    QVERIFY2(!wraps || label->height() >= 33, qPrintable(label->objectName()));
-                }
-                QTest::keyClick(&dialog, Qt::Key_Escape);
-                QCOMPARE(dialog.isVisible(), !escapeCloses);
-                dialog.close();
-            });
+        GameDriver::InDialog([&] { game.Choose(entry); },
+                             [&](QDialog& dialog) {
+                                 QTEST(dialog.objectName(), "name");
+                                 QTEST(dialog.windowTitle(), "caption");
+                                 QTEST(dialog.size(), "size");
+                                 QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
+                                 QVERIFY(dialog.parentWidget() == nullptr && dialog.isModal());
+                                 QCOMPARE(dialog.grab().toImage().pixelColor(3, 3), QColor(0, 128, 0));
+                                 // The copyright line is the last label of the shortest dialog: none may be covered.
+                                 for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+                                     const QFontMetrics metrics(label->font());
+                                     const bool wraps = metrics.horizontalAdvance(label->text()) > label->width();
+                                     QVERIFY2(!wraps || label->height() >= 33, qPrintable(label->objectName()));
+                                 }
+                                 QTest::keyClick(&dialog, Qt::Key_Escape);
+                                 QCOMPARE(dialog.isVisible(), !escapeCloses);
+                                 dialog.close();
+                             });
     }
 
     // The list pictures' indices, sizes and depths; and no visible box: their corners are the table's green.
@@ -183,10 +179,9 @@ private slots:
                 const QImage& image = list.Image(index);
                 QCOMPARE(image.size(), size);
                 QVERIFY(!image.hasAlphaChannel() && image.depth() >= 24);
-                different.insert(
-                    QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
-                for (const QImage& shown : {image, list.Rendering(index, {50, 50}).toImage(),
-                                            list.Rendering(index, {150, 150}).toImage()}) {
+                different.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
+                for (const QImage& shown :
+                     {image, list.Rendering(index, {50, 50}).toImage(), list.Rendering(index, {150, 150}).toImage()}) {
                     const QColor corner = shown.pixelColor(0, 0);
                     QVERIFY(corner.red() <= 2 && qAbs(corner.green() - 128) <= 2 && corner.blue() <= 2);
                 }

@@ -11,7 +11,14 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+#include <map>
+#include <vector>
+
 namespace {
+
+// How far text keeps from a control beside it.
+constexpr int gap = 3;
 
 // The part of `place` that no other control begins in, towards the right and downwards.
 QSize RoomWithin(const QRect& place, const QWidget& control, const QWidget& dialog) {
@@ -23,7 +30,7 @@ QSize RoomWithin(const QRect& place, const QWidget& control, const QWidget& dial
         }
         const QRect taken = other->geometry();
         if (taken.left() > room.left() && taken.top() <= room.top()) {
-            room.setRight(taken.left() - 1);
+            room.setRight(taken.left() - 1 - gap);
         } else if (taken.top() > room.top()) {
             room.setBottom(taken.top() - 1);
         }
@@ -36,7 +43,8 @@ QSize RoomWithin(const QRect& place, const QWidget& control, const QWidget& dial
 GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSize& clientSize) {
     setObjectName(name);
     setWindowTitle(caption);
-    setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+                   | Qt::WindowCloseButtonHint);
     setFixedSize(clientSize);
 }
 
@@ -63,10 +71,19 @@ QPushButton* GreenDialog::AddButton(const QString& name, const QString& caption,
     return button;
 }
 
-void GreenDialog::FitLabels() {
+void GreenDialog::FitLabels(Fit fit) {
+    std::map<int, std::vector<Label*>> groups;
     for (QObject* child : children()) {
         if (auto* label = dynamic_cast<Label*>(child)) {
             label->SetRoom(RoomWithin(label->geometry(), *label, *this));
+            groups[label->DesignSize()].push_back(label);
+        }
+    }
+    for (const auto& [size, labels] : groups) {
+        const auto fitted = [](const Label* label) { return label->font().pixelSize(); };
+        const int smallest = fitted(*std::ranges::min_element(labels, {}, fitted));
+        for (Label* label : labels) {
+            label->SetLargestSize(fit == Fit::Alike ? smallest : size);
         }
     }
 }

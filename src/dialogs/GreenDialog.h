@@ -38,9 +38,11 @@ protected:
     Label* AddLabel(const LabelDesign& design);
     QPushButton* AddButton(const QString& name, const QString& caption, const QRect& place);
 
-    // Keeps every label's text clear of the controls right of it and below it. Call when all controls are
-    // there.
-    void FitLabels();
+    // Whether labels of one type size stay of one size when one of them has to be made smaller.
+    enum class Fit { Each, Alike };
+
+    // Keeps every label's text clear of the controls right of it and below it. Call when all controls are there.
+    void FitLabels(Fit fit = Fit::Each);
 
     // Makes the button the one that Escape presses.
     void SetCancelButton(QPushButton* button) { cancelButton_ = button; }

@@ -19,11 +19,9 @@ frmAbout::frmAbout()
     picture->setGeometry(8, 8, 72, 76);
 
     // White under grey, shifted by a pixel: an etched groove.
-    auto* light =
-        new LineShape(this, {ToTwips(7), ToTwips(121), ToTwips(312), ToTwips(121)}, 2, Colours::white);
+    auto* light = new LineShape(this, {ToTwips(7), ToTwips(121), ToTwips(312), ToTwips(121)}, 2, Colours::white);
     light->setObjectName(u"Line1(0)"_s);
-    auto* dark =
-        new LineShape(this, {ToTwips(6), ToTwips(120), ToTwips(312), ToTwips(120)}, 1, Colours::grey);
+    auto* dark = new LineShape(this, {ToTwips(6), ToTwips(120), ToTwips(312), ToTwips(120)}, 1, Colours::grey);
     dark->setObjectName(u"Line1(1)"_s);
 
     const auto addText = [this](const QString& name, const QRect& place, const QString& caption) {
@@ -31,8 +29,7 @@ frmAbout::frmAbout()
     };
     auto* okButton = AddButton(u"cmdOK"_s, u"OK"_s, {216, 128, 84, 23});
     addText(u"lblDisclaimer"_s, {8, 128, 258, 23}, u"Copyright © 2026 the Kelvaro developers"_s);
-    AddLabel(
-        {u"lblTitle"_s, {88, 8, 259, 32}, Colours::white, TypeSize::Heading, QFont::Normal, u"Kelvaro"_s});
+    AddLabel({u"lblTitle"_s, {88, 8, 259, 32}, Colours::white, TypeSize::Heading, QFont::Normal, u"Kelvaro"_s});
     addText(u"lblVersion"_s, {88, 32, 259, 15}, u"Version 1.0"_s);
     addText(u"Label1"_s, {88, 56, 265, 33}, u"Support: the Kelvaro issue tracker"_s);
     FitLabels();

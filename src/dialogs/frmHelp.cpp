@@ -48,15 +48,14 @@ frmHelp::frmHelp() : GreenDialog(u"frmHelp"_s, u"How To Play Kelvaro"_s, QSize(4
     auto* okButton = AddButton(u"OKButton"_s, u"OK"_s, {336, 360, 81, 25});
     connect(okButton, &QPushButton::clicked, this, &frmHelp::OKButton_Click);
 
-    AddLabel(
-        {u"Label1"_s, {8, 8, 145, 25}, Colours::heading, TypeSize::Heading, QFont::Normal, u"Game Play"_s});
+    AddLabel({u"Label1"_s, {8, 8, 145, 25}, Colours::heading, TypeSize::Heading, QFont::Normal, u"Game Play"_s});
     AddLabel({u"Label2"_s, {8, 32, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, playText});
     AddLabel({u"Label3"_s, {8, 80, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, objectText});
     for (const ChartRow& row : chart) {
         AddLabel({QLatin1String(row.name), row.place, Colours::chart, TypeSize::Chart, QFont::Bold,
                   QLatin1String(row.caption)});
     }
-    FitLabels();
+    FitLabels(Fit::Alike);
 }
 
 void frmHelp::OKButton_Click() {

@@ -48,8 +48,8 @@ bool RoundsUp(int whole, QStringView fraction) {
     if (fraction.isEmpty() || fraction.front() < u'5') {
         return false;
     }
-    const bool isHalf = fraction.front() == u'5'
-                        && std::ranges::all_of(fraction.sliced(1), [](QChar digit) { return digit == u'0'; });
+    const bool isHalf =
+        fraction.front() == u'5' && std::ranges::all_of(fraction.sliced(1), [](QChar digit) { return digit == u'0'; });
     return !isHalf || whole % 2 == 1;
 }
 

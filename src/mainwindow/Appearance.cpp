@@ -15,10 +15,10 @@ namespace {
 
 QString LabelFamily() {
     // These share their widths and heights; whatever else a system falls back to is wider or taller.
-    static const QStringList preferred{u"MS Sans Serif"_s, u"Microsoft Sans Serif"_s, u"Arial"_s,
-                                       u"Liberation Sans"_s, u"Arimo"_s};
-    const auto found = std::ranges::find_if(
-        preferred, [](const QString& family) { return QFontDatabase::hasFamily(family); });
+    static const QStringList preferred{u"MS Sans Serif"_s, u"Microsoft Sans Serif"_s, u"Arial"_s, u"Liberation Sans"_s,
+                                       u"Arimo"_s};
+    const auto found =
+        std::ranges::find_if(preferred, [](const QString& family) { return QFontDatabase::hasFamily(family); });
     return found == preferred.end() ? QGuiApplication::font().family() : *found;
 }
 

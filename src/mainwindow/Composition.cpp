@@ -60,8 +60,7 @@ template <typename Control> Control* Named(Control* control, const QString& name
 }
 
 Label* NewReadOut(QWidget* table, const QString& name, TypeSize size, const QString& designCaption) {
-    auto* label =
-        Named(new Label(table, LabelFont(size, QFont::Bold), Colours::white, Qt::AlignHCenter), name);
+    auto* label = Named(new Label(table, LabelFont(size, QFont::Bold), Colours::white, Qt::AlignHCenter), name);
     label->SetCaption(designCaption);
     return label;
 }
@@ -70,8 +69,8 @@ Label* NewReadOut(QWidget* table, const QString& name, TypeSize size, const QStr
 
 Form1::Form1(const Platform& platform)
     : platform_(platform), imageList1_(u"die"_s, u"jpg"_s, 6), imageList2_(u"cell"_s, u"png"_s, 13),
-      rollPicture_(u"roll"_s, u"png"_s), newGamePicture_(u"newgame"_s, u"png"_s),
-      rowArrow_(u"arrow-right"_s, u"ico"_s), columnArrow_(u"arrow-down"_s, u"ico"_s) {
+      rollPicture_(u"roll"_s, u"png"_s), newGamePicture_(u"newgame"_s, u"png"_s), rowArrow_(u"arrow-right"_s, u"ico"_s),
+      columnArrow_(u"arrow-down"_s, u"ico"_s) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Kelvaro"_s);
     setWindowIcon(QIcon(u":/pictures/kelvaro.ico"_s));
@@ -97,8 +96,8 @@ void Form1::ComposeMenus() {
     const auto addMenu = [this](const char* name, const char* caption) {
         return Named(menuBar()->addMenu(QLatin1String(caption)), QLatin1String(name));
     };
-    const auto addEntry = [this](QMenu* menu, const char* name, const char* caption,
-                                 const QKeySequence& shortcut, void (Form1::*handler)()) {
+    const auto addEntry = [this](QMenu* menu, const char* name, const char* caption, const QKeySequence& shortcut,
+                                 void (Form1::*handler)()) {
         QAction* entry = Named(menu->addAction(QLatin1String(caption), this, handler), QLatin1String(name));
         entry->setShortcut(shortcut);
         return entry;
@@ -106,8 +105,7 @@ void Form1::ComposeMenus() {
 
     QMenu* game = addMenu("mnuGame", "&Game");
     addEntry(game, "mnuNewGame", "&New Game", Qt::CTRL | Qt::Key_N, &Form1::mnuNewGame_Click);
-    mnuGameRoll_ =
-        addEntry(game, "mnuGameRoll", "&Roll Dice", Qt::CTRL | Qt::Key_R, &Form1::mnuGameRoll_Click);
+    mnuGameRoll_ = addEntry(game, "mnuGameRoll", "&Roll Dice", Qt::CTRL | Qt::Key_R, &Form1::mnuGameRoll_Click);
     addEntry(game, "mnuGameHigh", "High Scores", {}, &Form1::mnuGameHigh_Click);
     Named(game->addSeparator(), u"mnuspace"_s);
     addEntry(game, "mnuGameExit", "E&xit", Qt::CTRL | Qt::Key_Q, &Form1::mnuGameExit_Click);
@@ -163,17 +161,15 @@ void Form1::ComposeReadOuts(QWidget* table) {
 }
 
 void Form1::ComposeButtonStrip(QWidget* table) {
-    line1_ =
-        Named(new LineShape(table, {0, 5640, 6120, 5640}, separatorThickness, Colours::white), u"Line1"_s);
+    line1_ = Named(new LineShape(table, {0, 5640, 6120, 5640}, separatorThickness, Colours::white), u"Line1"_s);
 
     imgNewGame_ = Named(new PictureButton(table), u"imgNewGame"_s);
     imgNewGame_->SetPicture(newGamePicture_, 1);
     imgNewGame_->Place(3120, 5760, 2955, 1125);
     connect(imgNewGame_, &PictureButton::clicked, this, &Form1::imgNewGame_Click);
 
-    lblRolled_ =
-        Named(new Label(table, LabelFont(TypeSize::Numeral, QFont::Bold), Colours::white, Qt::AlignLeft),
-              u"lblRolled"_s);
+    lblRolled_ = Named(new Label(table, LabelFont(TypeSize::Numeral, QFont::Bold), Colours::white, Qt::AlignLeft),
+                       u"lblRolled"_s);
     lblRolled_->SetBackground(Colours::table);
     lblRolled_->Place(2040, 5880, 1305, 825);
 

@@ -11,21 +11,21 @@ constexpr int smallestPixelSize = 6;
 
 } // namespace
 
-Label::Label(QWidget* parent, const QFont& font, const QColor& colour, Qt::AlignmentFlag alignment)
-    : Label(parent) {
+Label::Label(QWidget* parent, const QFont& font, const QColor& colour, Qt::AlignmentFlag alignment) : Label(parent) {
     QPalette colours = palette();
     colours.setColor(QPalette::WindowText, colour);
     setPalette(colours);
     setAlignment(alignment | Qt::AlignTop);
     font_ = font;
-    setFont(font_);
+    SetLargestSize(font_.pixelSize());
 }
 
-Label::Label(QWidget* parent) : QLabel(parent), Placement(this), font_(font()) {
+Label::Label(QWidget* parent) : QLabel(parent), Placement(this), font_(font()), largestSize_(0) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     font_.setPixelSize(fontInfo().pixelSize());
+    largestSize_ = font_.pixelSize();
 }
 
 void Label::SetCaption(const QString& caption) {
@@ -47,6 +47,11 @@ void Label::SetRoom(const QSize& room) {
     FitText();
 }
 
+void Label::SetLargestSize(int pixelSize) {
+    largestSize_ = pixelSize;
+    FitText();
+}
+
 void Label::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
     FitText();
@@ -54,6 +59,7 @@ void Label::resizeEvent(QResizeEvent* event) {
 
 void Label::FitText() {
     QFont fitting = font_;
+    fitting.setPixelSize(largestSize_);
     while (fitting.pixelSize() > smallestPixelSize && !Fits(fitting)) {
         fitting.setPixelSize(fitting.pixelSize() - 1);
     }
@@ -64,8 +70,10 @@ void Label::FitText() {
 
 bool Label::Fits(const QFont& font) const {
     const QSize room = room_.isValid() ? room_ : size();
+    // A label less than two lines high is meant for one.
+    const int wrapping = 2 * QFontMetrics(font_).lineSpacing() <= room.height() ? Qt::TextWordWrap : 0;
     const QFontMetrics metrics(font);
-    const QRect needed = metrics.boundingRect(QRect(QPoint(), room), Qt::TextWordWrap, text());
+    const QRect needed = metrics.boundingRect(QRect(QPoint(), room), wrapping, text());
     // Below the last line's baseline only what is drawn counts: numerals need no room there.
     const int drawnDescent = qMax(0, metrics.tightBoundingRect(text()).bottom() + 1);
     const int height = needed.height() - metrics.descent() + qMin(drawnDescent, metrics.descent());

@@ -25,6 +25,10 @@ public:
     // Bounds the text more closely than the label does: what lies beyond is covered by another control.
     void SetRoom(const QSize& room);
 
+    // The pixel size that the text is meant to have, and the largest that it is given.
+    int DesignSize() const { return font_.pixelSize(); }
+    void SetLargestSize(int pixelSize);
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
@@ -34,4 +38,5 @@ private:
 
     QFont font_;
     QSize room_;
+    int largestSize_;
 };

@@ -37,9 +37,7 @@ public:
     }
 
 private:
-    void Apply() {
-        widget_->setGeometry(ToPixels(left_), ToPixels(top_), ToPixels(width_), ToPixels(height_));
-    }
+    void Apply() { widget_->setGeometry(ToPixels(left_), ToPixels(top_), ToPixels(width_), ToPixels(height_)); }
 
     QWidget* widget_;
     double left_ = 0;

@@ -49,8 +49,7 @@ QPixmap PictureList::Rendering(std::int16_t index, const QSize& size) const {
         const QImage& own = Image(index);
         const QImage source = Covers(own.size(), size) ? own : QImage(At(index).largeFileName);
         rendering = QPixmap::fromImage(
-            source.size() == size ? source
-                                  : source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+            source.size() == size ? source : source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     return rendering;
 }

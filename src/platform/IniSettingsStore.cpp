@@ -55,8 +55,7 @@ void IniSettingsStore::Refresh() {
     isReadable_ = !QFile::exists(fileName_) || QFile(fileName_).open(QIODevice::ReadOnly);
 }
 
-std::optional<QString> IniSettingsStore::Read(const QString& section, const QString& key,
-                                              const QString& fallback) {
+std::optional<QString> IniSettingsStore::Read(const QString& section, const QString& key, const QString& fallback) {
     if (!isReadable_) {
         return std::nullopt;
     }

@@ -20,8 +20,7 @@ public:
 
     // The text as it stood at the last Refresh or Write; `fallback` where the store has none; nothing where
     // the store cannot be read.
-    virtual std::optional<QString> Read(const QString& section, const QString& key,
-                                        const QString& fallback) = 0;
+    virtual std::optional<QString> Read(const QString& section, const QString& key, const QString& fallback) = 0;
 
     virtual void Write(const QString& section, const QString& key, const QString& text) = 0;
 

@@ -9,8 +9,7 @@ namespace {
 
 std::mt19937_64 SeededFromEntropy() {
     std::random_device entropy;
-    std::seed_seq seed{entropy(), entropy(), entropy(), entropy(),
-                       entropy(), entropy(), entropy(), entropy()};
+    std::seed_seq seed{entropy(), entropy(), entropy(), entropy(), entropy(), entropy(), entropy(), entropy()};
     return std::mt19937_64(seed);
 }
 

@@ -11,8 +11,7 @@
 std::array<RollValue, Board::Side> BoardLine::Cells(const Board& board) const {
     std::array<RollValue, Board::Side> cells{};
     for (std::int16_t step = 1; step <= Board::Side; step = CheckedAdd(step, 1)) {
-        cells[static_cast<std::size_t>(step - 1)] =
-            kind == Kind::Row ? board.At(number, step) : board.At(step, number);
+        cells[static_cast<std::size_t>(step - 1)] = kind == Kind::Row ? board.At(number, step) : board.At(step, number);
     }
     return cells;
 }

@@ -93,19 +93,14 @@ struct HandTest {
 
 // Most valuable first: the first test that holds decides.
 constexpr std::array handTests{
-    HandTest{IsFiveOfAKind, HandCategory::FiveOfAKind},
-    HandTest{IsLargeStraight, HandCategory::LargeStraight},
-    HandTest{IsSmallStraight, HandCategory::SmallStraight},
-    HandTest{IsFullHouse, HandCategory::FullHouse},
-    HandTest{IsFourOfAKind, HandCategory::FourOfAKind},
-    HandTest{IsTwoPair, HandCategory::TwoPair},
-    HandTest{IsThreeOfAKind, HandCategory::ThreeOfAKind},
-    HandTest{IsPair, HandCategory::Pair},
+    HandTest{IsFiveOfAKind, HandCategory::FiveOfAKind},     HandTest{IsLargeStraight, HandCategory::LargeStraight},
+    HandTest{IsSmallStraight, HandCategory::SmallStraight}, HandTest{IsFullHouse, HandCategory::FullHouse},
+    HandTest{IsFourOfAKind, HandCategory::FourOfAKind},     HandTest{IsTwoPair, HandCategory::TwoPair},
+    HandTest{IsThreeOfAKind, HandCategory::ThreeOfAKind},   HandTest{IsPair, HandCategory::Pair},
 };
 
 HandCategory Categorize(const Hand& hand) {
-    const auto found =
-        std::ranges::find_if(handTests, [&](const HandTest& test) { return test.holds(hand); });
+    const auto found = std::ranges::find_if(handTests, [&](const HandTest& test) { return test.holds(hand); });
     return found == handTests.end() ? HandCategory::NoHand : found->category;
 }
 
