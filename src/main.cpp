@@ -18,16 +18,17 @@ namespace {
 // Qt answers a missing display with a core dump.
 void ExplainFatal(QtMsgType type, const QMessageLogContext&, const QString&) {
     if (type == QtFatalMsg) {
-        std::fputs("kelvaro: there is no display to open a window on\n", stderr);
+        std::fputs("kelvaro: there is no display to open a window on, or no Qt platform plugin for it\n", stderr);
         std::_Exit(EXIT_FAILURE);
     }
 }
 
 } // namespace
 
-int main(int argc, char* argv[]) {
+int main(int, char* argv[]) {
     const QtMessageHandler standardHandler = qInstallMessageHandler(ExplainFatal);
-    QApplication application(argc, argv);
+    int noArguments = 1; // only the program's name: the game takes no command line, Qt's own options included
+    QApplication application(noArguments, argv);
     qInstallMessageHandler(standardHandler);
 
     SystemClock clock;

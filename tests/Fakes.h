@@ -15,6 +15,8 @@
 
 #include <deque>
 #include <functional>
+#include <map>
+#include <optional>
 
 // Stands still at 2026/1/5 9:05:30 until a test says otherwise.
 struct FakeClock final : Clock {

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "Fakes.h"
+#include "controls/Label.h"
+#include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/Label.h"
-#include "mainwindow/Picture.h"
 
 #include <QAction>
 #include <QApplication>
@@ -36,7 +36,7 @@ struct GameDriver {
         return *found;
     }
 
-    QString Caption(const QString& name) const { return Find<Label>(name).Caption(); }
+    QString Caption(const QString& name) const { return Find<Label>(name).text(); }
     bool IsShown(const QString& name) const { return Find(name).isVisible(); }
     bool CanRoll() const { return IsShown("Image1") && Find<QAction>("mnuGameRoll").isEnabled(); }
     QString Prompt() const { return Find<QStatusBar>("StatusBar1").findChild<QLabel*>()->text(); }
@@ -68,19 +68,6 @@ struct GameDriver {
             }
         }
     }
-    QString BoardText() const {
-        QStringList rows;
-        for (std::int16_t row = 1; row <= Board::Side; ++row) {
-            QStringList values;
-            for (std::int16_t column = 1; column <= Board::Side; ++column) {
-                const RollValue value = form.GameBoard().At(row, column);
-                values << (value == 0 ? "-" : QString::number(value));
-            }
-            rows << values.join(' ');
-        }
-        return rows.join(" / ");
-    }
-
     // Runs `act` on the dialog or message box that `open` shows, and closes what `act` left open.
     template <typename Open, typename Act> static void InDialog(Open open, Act act) {
         bool wasShown = false;

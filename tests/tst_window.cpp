@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "GameDriver.h"
-#include "mainwindow/LineShape.h"
-#include "mainwindow/Twips.h"
+#include "controls/LineShape.h"
+#include "controls/Twips.h"
 
 #include <QMenuBar>
 #include <QMessageBox>
@@ -12,7 +12,7 @@
 
 namespace {
 
-using Names = QHash<QString, double>;
+using Twips = QList<std::pair<QString, double>>;
 
 void ResizeOuter(Form1& form, int width, int height) {
     form.resize(QSize(width, height).shrunkBy(form.windowHandle()->frameMargins()));
@@ -51,49 +51,49 @@ private slots:
         QCOMPARE(game.form.windowTitle(), "Kelvaro");
         QCOMPARE(game.form.windowIcon().availableSizes(), QList{QSize(16, 16)});
         QCOMPARE(game.Find("StatusBar1").height(), 17);
-        QCOMPARE(game.Find("img1_1").geometry(), QRect(16, 24, 50, 50));
-        QCOMPARE(game.Find("Image1").size(), QSize(197, 75));
-        QCOMPARE(game.Find("imgNewGame").size(), QSize(197, 75));
-        QCOMPARE(game.Find("lblRolled").size(), QSize(87, 55));
-        QCOMPARE(game.Find("lblTotal").size(), QSize(73, 33));
-        QCOMPARE(game.Find("lbl_col3").size(), QSize(49, 17));
-        QCOMPARE(game.Find("img_row2").size(), QSize(32, 48));
-        QCOMPARE(game.Find("img_col2").size(), QSize(48, 40));
+        QCOMPARE(game.Find("img1_1").pos(), QPoint(16, 24));
+        for (const auto& [name, width, height] :
+             std::initializer_list<std::tuple<const char*, int, int>>{{"img4_2", 50, 50},
+                                                                      {"Image1", 197, 75},
+                                                                      {"imgNewGame", 197, 75},
+                                                                      {"imgRolled1", 50, 50},
+                                                                      {"lblRolled", 87, 55},
+                                                                      {"lblTotal", 73, 33},
+                                                                      {"lbl_col3", 49, 17},
+                                                                      {"lbl_row3", 33, 17},
+                                                                      {"img_row2", 32, 48},
+                                                                      {"img_col2", 48, 40}}) {
+            QCOMPARE(game.Find(name).size(), QSize(width, height));
+        }
         QCOMPARE(game.Find("lblTotal").font().pixelSize(), 32);
     }
 
     void layout_data() {
         QTest::addColumn<QSize>("outer");
-        QTest::addColumn<Names>("lefts");
-        QTest::addColumn<Names>("tops");
+        QTest::addColumn<Twips>("expected");
         QTest::newRow("the floor") << QSize(418, 541)
-                                   << Names{{"img3_2", 1085},   {"img1_5", 3620},   {"lbl_row4", 4765},
-                                            {"lblTotal", 4765}, {"img_row1", 4220}, {"imgNewGame", 3055},
-                                            {"Image1", 0},      {"lbl_col4", 2775}}
-                                   << Names{{"img2_1", 1215.83},   {"img5_5", 3783.33},   {"lbl_row2", 1455.83},
-                                            {"lbl_row3", 2311.67}, {"lbl_row4", 3167.5},  {"lbl_row5", 4043.33},
-                                            {"lbl_col1", 5114.17}, {"lblTotal", 5039.17}, {"img_col3", 4383.33},
-                                            {"Image1", 5715},      {"imgRolled2", 5815},  {"lblRolled", 5815},
-                                            {"img_row3", 2071.67}};
+                                   << Twips{{"img3_2.x", 1085},      {"img1_5.x", 3620},      {"lblTotal.x", 4765},
+                                            {"img_row1.x", 4220},    {"imgNewGame.x", 3055},  {"Image1.x", 0},
+                                            {"img2_1.y", 1215.83},   {"img5_5.y", 3783.33},   {"lbl_row2.y", 1455.83},
+                                            {"lbl_row3.y", 2311.67}, {"lbl_row4.y", 3167.5},  {"lbl_row5.y", 4043.33},
+                                            {"lbl_col1.y", 5114.17}, {"lblTotal.y", 5039.17}, {"img_col3.y", 4383.33},
+                                            {"Image1.y", 5715},      {"imgRolled2.y", 5815},  {"img_row3.y", 2071.67}};
         QTest::newRow("9000 by 10005 twips")
-            << QSize(600, 667) << Names{{"img3_2", 1540},   {"img1_5", 5440},     {"lbl_row4", 7040},
-                                        {"img_row1", 6040}, {"imgNewGame", 3235}, {"img_col2", 1540 + 375 - 360},
-                                        {"img_col1", 240}}
-            << Names{{"img2_1", 1530.83},   {"img5_5", 5043.33}, {"lbl_row5", 5304.17},
-                     {"lbl_col1", 6689.17}, {"Image1", 7605},    {"imgRolled2", 7705}};
+            << QSize(600, 667)
+            << Twips{{"img3_2.x", 1540},    {"img1_5.x", 5440},   {"lbl_row4.x", 7040}, {"lbl_col4.x", 4140},
+                     {"img_row1.x", 6040},  {"img_col2.x", 1555}, {"img_col1.x", 240},  {"imgNewGame.x", 3235},
+                     {"img2_1.y", 1530.83}, {"Image1.y", 7605},   {"lblRolled.y", 7705}};
     }
     void layout() {
         QFETCH(QSize, outer);
-        QFETCH(Names, lefts);
-        QFETCH(Names, tops);
+        QFETCH(Twips, expected);
         GameDriver game;
         ResizeOuter(game.form, 900, 900);
         ResizeOuter(game.form, outer.width(), outer.height());
-        for (auto left = lefts.constBegin(); left != lefts.constEnd(); ++left) {
-            QVERIFY2(game.Find(left.key()).x() == ToPixels(left.value()), qPrintable(left.key()));
-        }
-        for (auto top = tops.constBegin(); top != tops.constEnd(); ++top) {
-            QVERIFY2(game.Find(top.key()).y() == ToPixels(top.value()), qPrintable(top.key()));
+        for (const auto& [coordinate, twips] : expected) {
+            const QPoint corner = game.Find(coordinate.section('.', 0, 0)).pos();
+            const int pixels = coordinate.endsWith('x') ? corner.x() : corner.y();
+            QVERIFY2(pixels == ToPixels(twips), qPrintable(coordinate));
         }
         // Strike lines run from a fixed end to the last cell, through the middle of theirs.
         const QRect row = game.Find("lin_row4").geometry();
@@ -107,19 +107,14 @@ private slots:
         QCOMPARE(game.Find("Line1").width(), outer.width());
     }
 
-    void floors() {
+    void floorsAndMinimising() {
         GameDriver game;
         const QSize smallest(418, 541);
-        for (const QSize wanted : {QSize(417, 540), QSize(100, 800), QSize(800, 100), QSize(1, 1)}) {
+        for (const QSize wanted : {QSize(417, 800), QSize(800, 540), smallest, QSize(1, 1), QSize(700, 700)}) {
             ResizeOuter(game.form, wanted.width(), wanted.height());
             QCOMPARE(Outer(game.form), wanted.expandedTo(smallest));
             QCOMPARE(game.Find("Line1").width(), Outer(game.form).width());
         }
-    }
-
-    void minimisedWindowKeepsItsLayout() {
-        GameDriver game;
-        ResizeOuter(game.form, 700, 700);
         const QRect before = game.Find("img5_5").geometry();
         game.form.setWindowState(Qt::WindowMinimized);
         QResizeEvent resize(QSize(10, 10), game.form.size());
@@ -127,44 +122,32 @@ private slots:
         QCOMPARE(game.Find("img5_5").geometry(), before);
     }
 
-    void greenDialogs_data() {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("caption");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<bool>("escapeCloses");
-        QTest::newRow("help") << "mnuHelpHow"
-                              << "frmHelp"
-                              << "How To Play Kelvaro" << QSize(426, 396) << false;
-        QTest::newRow("about") << "mnuHelpAbout"
-                               << "frmAbout"
-                               << "About Kelvaro" << QSize(320, 166) << true;
-        QTest::newRow("scores") << "mnuGameHigh"
-                                << "frmHighScores"
-                                << "High Scores" << QSize(402, 143) << false;
-    }
     void greenDialogs() {
-        QFETCH(bool, escapeCloses);
-        QFETCH(QString, entry);
         GameDriver game;
-        GameDriver::InDialog([&] { game.Choose(entry); },
-                             [&](QDialog& dialog) {
-                                 QTEST(dialog.objectName(), "name");
-                                 QTEST(dialog.windowTitle(), "caption");
-                                 QTEST(dialog.size(), "size");
-                                 QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
-                                 QVERIFY(dialog.parentWidget() == nullptr && dialog.isModal());
-                                 QCOMPARE(dialog.grab().toImage().pixelColor(3, 3), QColor(0, 128, 0));
-                                 // The copyright line is the last label of the shortest dialog: none may be covered.
-                                 for (const QLabel* label : dialog.findChildren<QLabel*>()) {
-                                     const QFontMetrics metrics(label->font());
-                                     const bool wraps = metrics.horizontalAdvance(label->text()) > label->width();
-                                     QVERIFY2(!wraps || label->height() >= 33, qPrintable(label->objectName()));
-                                 }
-                                 QTest::keyClick(&dialog, Qt::Key_Escape);
-                                 QCOMPARE(dialog.isVisible(), !escapeCloses);
-                                 dialog.close();
-                             });
+        for (const auto& [entry, name, caption, size, escapeCloses] :
+             {std::tuple("mnuHelpHow", "frmHelp", "How To Play Kelvaro", QSize(426, 396), false),
+              std::tuple("mnuHelpAbout", "frmAbout", "About Kelvaro", QSize(320, 166), true),
+              std::tuple("mnuGameHigh", "frmHighScores", "High Scores", QSize(402, 143), false)}) {
+            const auto check = [&, name = name, caption = caption, size = size,
+                                escapeCloses = escapeCloses](QDialog& dialog) {
+                QCOMPARE(dialog.objectName(), name);
+                QCOMPARE(dialog.windowTitle(), caption);
+                QCOMPARE(dialog.maximumSize(), size);
+                QCOMPARE(dialog.minimumSize(), size);
+                QVERIFY(dialog.parentWidget() == nullptr && dialog.isModal());
+                const auto* button = qobject_cast<QPushButton*>(dialog.focusWidget());
+                QVERIFY(button != nullptr && button->text() == "OK");
+                QCOMPARE(dialog.grab().toImage().pixelColor(3, 3), QColor(0, 128, 0));
+                for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+                    const QRect text =
+                        label->fontMetrics().boundingRect(label->geometry(), Qt::TextWordWrap, label->text());
+                    QVERIFY2(!text.intersects(button->geometry()), qPrintable(label->objectName()));
+                }
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+                QCOMPARE(dialog.isVisible(), !escapeCloses);
+            };
+            GameDriver::InDialog([&, entry = entry] { game.Choose(entry); }, check);
+        }
     }
 
     // The list pictures' indices, sizes and depths; and no visible box: their corners are the table's green.

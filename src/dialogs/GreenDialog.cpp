@@ -3,8 +3,8 @@
 
 #include "dialogs/GreenDialog.h"
 
-#include "mainwindow/Geometry.h"
-#include "mainwindow/Label.h"
+#include "controls/CentredOn.h"
+#include "controls/Label.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
@@ -12,8 +12,6 @@
 #include <QWindow>
 
 #include <algorithm>
-#include <map>
-#include <vector>
 
 namespace {
 
@@ -71,20 +69,19 @@ QPushButton* GreenDialog::AddButton(const QString& name, const QString& caption,
     return button;
 }
 
-void GreenDialog::FitLabels(Fit fit) {
-    std::map<int, std::vector<Label*>> groups;
+void GreenDialog::FitLabels() {
     for (QObject* child : children()) {
         if (auto* label = dynamic_cast<Label*>(child)) {
             label->SetRoom(RoomWithin(label->geometry(), *label, *this));
-            groups[label->DesignSize()].push_back(label);
         }
     }
-    for (const auto& [size, labels] : groups) {
-        const auto fitted = [](const Label* label) { return label->font().pixelSize(); };
-        const int smallest = fitted(*std::ranges::min_element(labels, {}, fitted));
-        for (Label* label : labels) {
-            label->SetLargestSize(fit == Fit::Alike ? smallest : size);
-        }
+}
+
+void GreenDialog::FitAlike(const std::vector<Label*>& labels) {
+    const auto fitted = [](const Label* label) { return label->font().pixelSize(); };
+    const int smallest = fitted(*std::ranges::min_element(labels, {}, fitted));
+    for (Label* label : labels) {
+        label->SetLargestSize(smallest);
     }
 }
 

@@ -3,12 +3,14 @@
 
 #pragma once
 
-#include "mainwindow/Appearance.h"
-#include "mainwindow/GreenTable.h"
+#include "controls/Appearance.h"
+#include "controls/GreenTable.h"
 
 #include <QDialog>
 #include <QRect>
 #include <QString>
+
+#include <vector>
 
 class Label;
 class QPushButton;
@@ -38,11 +40,11 @@ protected:
     Label* AddLabel(const LabelDesign& design);
     QPushButton* AddButton(const QString& name, const QString& caption, const QRect& place);
 
-    // Whether labels of one type size stay of one size when one of them has to be made smaller.
-    enum class Fit { Each, Alike };
-
     // Keeps every label's text clear of the controls right of it and below it. Call when all controls are there.
-    void FitLabels(Fit fit = Fit::Each);
+    void FitLabels();
+
+    // Gives all of `labels` the size of the one that had to be made smallest. Call after FitLabels.
+    static void FitAlike(const std::vector<Label*>& labels);
 
     // Makes the button the one that Escape presses.
     void SetCancelButton(QPushButton* button) { cancelButton_ = button; }

@@ -3,9 +3,9 @@
 
 #include "dialogs/frmAbout.h"
 
+#include "controls/LineShape.h"
+#include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/LineShape.h"
-#include "mainwindow/Picture.h"
 
 #include <QPushButton>
 

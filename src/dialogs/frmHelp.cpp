@@ -51,11 +51,13 @@ frmHelp::frmHelp() : GreenDialog(u"frmHelp"_s, u"How To Play Kelvaro"_s, QSize(4
     AddLabel({u"Label1"_s, {8, 8, 145, 25}, Colours::heading, TypeSize::Heading, QFont::Normal, u"Game Play"_s});
     AddLabel({u"Label2"_s, {8, 32, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, playText});
     AddLabel({u"Label3"_s, {8, 80, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, objectText});
+    std::vector<Label*> rows;
     for (const ChartRow& row : chart) {
-        AddLabel({QLatin1String(row.name), row.place, Colours::chart, TypeSize::Chart, QFont::Bold,
-                  QLatin1String(row.caption)});
+        rows.push_back(AddLabel({QLatin1String(row.name), row.place, Colours::chart, TypeSize::Chart, QFont::Bold,
+                                 QLatin1String(row.caption)}));
     }
-    FitLabels(Fit::Alike);
+    FitLabels();
+    FitAlike(rows);
 }
 
 void frmHelp::OKButton_Click() {

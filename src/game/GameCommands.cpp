@@ -1,15 +1,25 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
+#include "controls/Label.h"
+#include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/Label.h"
-#include "mainwindow/Picture.h"
 #include "platform/Process.h"
 
 #include <QAction>
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool Confirm(QWidget* window, const QString& question) {
+    QMessageBox box(QMessageBox::NoIcon, u"Kelvaro"_s, question, QMessageBox::Yes | QMessageBox::No, window);
+    box.setDefaultButton(QMessageBox::Yes);
+    return box.exec() == QMessageBox::Yes;
+}
+
+} // namespace
 
 void Form1::Form_Load() {
     LoadHighScores();
@@ -35,19 +45,13 @@ void Form1::imgNewGame_Click() {
 }
 
 void Form1::mnuNewGame_Click() {
-    if (board_.IsFull() || Confirm(u"Are you sure you want to quit this game and start a new one?"_s)) {
+    if (board_.IsFull() || Confirm(this, u"Are you sure you want to quit this game and start a new one?"_s)) {
         StartNewGame();
     }
 }
 
 void Form1::mnuGameExit_Click() {
-    if (Confirm(u"Are you sure you want to quit?"_s)) {
+    if (Confirm(this, u"Are you sure you want to quit?"_s)) {
         platform_.process.End();
     }
-}
-
-bool Form1::Confirm(const QString& question) {
-    QMessageBox box(QMessageBox::NoIcon, u"Kelvaro"_s, question, QMessageBox::Yes | QMessageBox::No, this);
-    box.setDefaultButton(QMessageBox::Yes);
-    return box.exec() == QMessageBox::Yes;
 }

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
+#include "controls/Label.h"
+#include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/Label.h"
-#include "mainwindow/Picture.h"
 
 #include <QAction>
 

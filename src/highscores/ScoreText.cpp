@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <limits>
 
 namespace {

@@ -3,8 +3,7 @@
 
 #include "highscores/frmHighScores.h"
 
-#include "highscores/HighScoreTable.h"
-#include "mainwindow/Label.h"
+#include "controls/Label.h"
 #include "platform/Int16.h"
 
 #include <QPushButton>

@@ -4,8 +4,10 @@
 #pragma once
 
 #include "dialogs/GreenDialog.h"
+#include "highscores/HighScoreTable.h"
 
-class HighScoreTable;
+#include <array>
+
 class SettingsStore;
 
 // The list of the five best rounds.
@@ -20,5 +22,5 @@ private:
     void CancelButton_Click();
 
     SettingsStore& store_;
-    std::array<Label*, 5> lblHighScore_{};
+    std::array<Label*, HighScoreTable::Ranks> lblHighScore_{};
 };

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/Appearance.h"
+#include "controls/Appearance.h"
+#include "controls/GreenTable.h"
+#include "controls/Label.h"
+#include "controls/LineShape.h"
+#include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/GreenTable.h"
-#include "mainwindow/Label.h"
-#include "mainwindow/LineShape.h"
-#include "mainwindow/Picture.h"
 #include "platform/Int16.h"
 #include "scoring/BoardLines.h"
 
@@ -80,7 +80,8 @@ Form1::Form1(const Platform& platform)
     ComposeMenus();
     auto* table = new GreenTable<QWidget>;
     setCentralWidget(table);
-    // Back to front: strike lines under the cells, the dice over everything else.
+    // Back to front: strike lines under the cells that they join; in the strip, which is crowded in a narrow window,
+    // the new-game button, the sum, the roll button and the dice.
     ComposeStrikeLines(table);
     ComposeCells(table);
     ComposeReadOuts(table);
@@ -146,12 +147,12 @@ void Form1::ComposeReadOuts(QWidget* table) {
         controls.readOut = NewReadOut(table, u"lbl"_s + Suffix(line), TypeSize::Chart, u"55"_s);
         if (line.kind == BoardLine::Kind::Row) {
             controls.marker->SetPicture(rowArrow_, 1);
-            controls.marker->Place(4200, Nth(360, line.number), 480, 720);
+            controls.marker->Place(4200, Nth(firstTop, line.number), 480, 720);
             controls.readOut->Place(4800, Nth(600, line.number), 495, 255);
         } else {
             controls.marker->SetPicture(columnArrow_, 1);
-            controls.marker->Place(Nth(240, line.number), 4320, 720, 600);
-            controls.readOut->Place(Nth(240, line.number), 5160, 735, 255);
+            controls.marker->Place(Nth(firstLeft, line.number), 4320, 720, 600);
+            controls.readOut->Place(Nth(firstLeft, line.number), 5160, 735, 255);
         }
         controls.marker->hide();
         controls.readOut->hide();
@@ -197,15 +198,17 @@ void Form1::ComposeStatusBar() {
 }
 
 PictureButton& Form1::Cell(std::int16_t row, std::int16_t column) const {
+    CheckedIndex(row, 1, Board::Side);
+    CheckedIndex(column, 1, Board::Side);
     return *cells_[static_cast<std::size_t>((row - 1) * Board::Side + column - 1)];
 }
 
 Form1::LineControls& Form1::Row(std::int16_t row) {
-    return lineControls_[static_cast<std::size_t>(row - 1)];
+    return lineControls_[static_cast<std::size_t>(CheckedIndex(row, 1, Board::Side) - 1)];
 }
 
 Form1::LineControls& Form1::Column(std::int16_t column) {
-    return lineControls_[static_cast<std::size_t>(Board::Side + column - 1)];
+    return lineControls_[static_cast<std::size_t>(Board::Side + CheckedIndex(column, 1, Board::Side) - 1)];
 }
 
 void Form1::SetPrompt(const QString& prompt) {

@@ -6,7 +6,6 @@
 
 #include <QCloseEvent>
 #include <QEvent>
-#include <QScreen>
 #include <QWindow>
 
 bool Form1::event(QEvent* event) {
@@ -33,7 +32,7 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
 
 void Form1::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    if (isFrameKnown_) {
+    if (isFrameKnown_ && !TakeUpFrame()) {
         Form_Resize();
     }
 }

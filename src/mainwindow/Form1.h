@@ -66,7 +66,6 @@ private:
     void mnuGameRoll_Click();
     void mnuNewGame_Click();
     void mnuGameExit_Click();
-    bool Confirm(const QString& question);
 
     // scoring/
     void UpdateScores();
@@ -98,7 +97,8 @@ private:
     void Form_Resize();
     void LayOutHorizontally(double outerWidth);
     void LayOutVertically(double outerHeight);
-    void TakeUpFrame();
+    // Reads the frame's size and, when it is news, lays the window out for it; tells whether it did.
+    bool TakeUpFrame();
     QSize OuterSize() const;
     void SetOuterWidth(double twips);
     void SetOuterHeight(double twips);

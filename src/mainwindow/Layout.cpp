@@ -1,16 +1,18 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
+#include "controls/CentredOn.h"
+#include "controls/Label.h"
+#include "controls/LineShape.h"
+#include "controls/Picture.h"
+#include "controls/Twips.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/Geometry.h"
-#include "mainwindow/Label.h"
-#include "mainwindow/LineShape.h"
-#include "mainwindow/Picture.h"
-#include "mainwindow/Twips.h"
 #include "platform/Int16.h"
 
 #include <QScreen>
 #include <QWindow>
+
+#include <array>
 
 namespace {
 
@@ -101,7 +103,7 @@ void Form1::LayOutVertically(double outerHeight) {
         Row(row).strike->SetY1(middle);
         Row(row).strike->SetY2(middle);
         Row(row).marker->SetTop(top);
-        Row(row).readOut->SetTop(anchor + steps * pitch + readOutOffsets[static_cast<std::size_t>(steps)]);
+        Row(row).readOut->SetTop(anchor + steps * pitch + readOutOffsets.at(static_cast<std::size_t>(steps)));
     }
 
     const PictureButton& lastCell = Cell(5, 1);
@@ -113,10 +115,10 @@ void Form1::LayOutVertically(double outerHeight) {
     lblTotal_->SetTop(anchor + 5 * pitch);
 }
 
-void Form1::TakeUpFrame() {
+bool Form1::TakeUpFrame() {
     const QMargins frame = windowHandle()->frameMargins();
     if (isFrameKnown_ && frame == frame_) {
-        return;
+        return false;
     }
     const bool isFirstPicture = !isFrameKnown_;
     isFrameKnown_ = true;
@@ -129,6 +131,7 @@ void Form1::TakeUpFrame() {
     if (isFirstPicture) {
         windowHandle()->setFramePosition(CentredOn(screen()->geometry(), OuterSize()));
     }
+    return true;
 }
 
 QSize Form1::OuterSize() const {

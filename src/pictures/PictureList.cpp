@@ -23,16 +23,15 @@ bool Covers(const QSize& larger, const QSize& smaller) {
 
 } // namespace
 
-PictureList::PictureList(const QString& stem, const QString& suffix, std::int16_t count, QObject* parent)
-    : QObject(parent) {
+PictureList::PictureList(const QString& stem, const QString& suffix, std::int16_t count) {
     for (std::int16_t index = 1; index <= count; index = CheckedAdd(index, 1)) {
         const QString name = stem + QString::number(index);
         entries_.push_back({FileName(name, suffix), LargeFileName(name), {}, {}});
     }
 }
 
-PictureList::PictureList(const QString& name, const QString& suffix, QObject* parent)
-    : QObject(parent), entries_{{FileName(name, suffix), LargeFileName(name), {}, {}}} {
+PictureList::PictureList(const QString& name, const QString& suffix)
+    : entries_{{FileName(name, suffix), LargeFileName(name), {}, {}}} {
 }
 
 const QImage& PictureList::Image(std::int16_t index) const {

@@ -21,10 +21,10 @@ class PictureList final : public QObject {
 public:
     // The pictures :/pictures/<stem>1.<suffix> to <stem><count>.<suffix>, their larger renderings
     // :/pictures/large/<stem>1.png and so on.
-    PictureList(const QString& stem, const QString& suffix, std::int16_t count, QObject* parent = nullptr);
+    PictureList(const QString& stem, const QString& suffix, std::int16_t count);
 
     // A list of a single picture, :/pictures/<name>.<suffix>.
-    PictureList(const QString& name, const QString& suffix, QObject* parent = nullptr);
+    PictureList(const QString& name, const QString& suffix);
 
     std::int16_t Count() const { return static_cast<std::int16_t>(entries_.size()); }
 

@@ -3,38 +3,38 @@
 
 #include "platform/IniSettingsStore.h"
 
-#include "platform/IniText.h"
-
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QStandardPaths>
 
+#include <filesystem>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Far above anything the game writes; a hostile file must not fill the memory.
-constexpr qint64 largestFile = 16 * 1024 * 1024;
-
-// QSettings' own INI format would take commas, semicolons, quotes and backslashes in a text for its syntax.
-QSettings::Format LiteralIniFormat() {
-    static const QSettings::Format format = QSettings::registerFormat(
-        u"ini"_s,
-        [](QIODevice& device, QSettings::SettingsMap& map) {
-            map = ParseIni(QString::fromUtf8(device.read(largestFile)));
-            return true;
-        },
-        [](QIODevice& device, const QSettings::SettingsMap& map) {
-            const QByteArray bytes = ComposeIni(map).toUtf8();
-            return device.write(bytes) == bytes.size();
-        });
-    return format;
-}
+// Far above anything the game writes: a hostile file must not fill the memory or the time.
+constexpr qint64 largestFile = 64 * 1024;
 
 QString Path(const QString& section, const QString& key) {
     return section + u'/' + key;
+}
+
+// The file's texts, none when there is no such file; nothing when it cannot be read.
+std::optional<IniMap> ReadFile(const QString& fileName) {
+    std::error_code error;
+    const auto kind = std::filesystem::status(QFile::encodeName(fileName).toStdString(), error).type();
+    if (kind == std::filesystem::file_type::not_found) {
+        return IniMap();
+    }
+    QFile file(fileName);
+    if (kind != std::filesystem::file_type::regular || !file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    return ParseIni(QString::fromUtf8(file.read(largestFile)));
 }
 
 } // namespace
@@ -47,41 +47,28 @@ IniSettingsStore::IniSettingsStore(QString fileName) : fileName_(std::move(fileN
 }
 
 void IniSettingsStore::Refresh() {
-    isReadable_ = false;
-    if (!IsUsable()) {
-        return;
-    }
-    Settings().sync();
-    isReadable_ = !QFile::exists(fileName_) || QFile(fileName_).open(QIODevice::ReadOnly);
+    texts_ = ReadFile(fileName_);
 }
 
 std::optional<QString> IniSettingsStore::Read(const QString& section, const QString& key, const QString& fallback) {
-    if (!isReadable_) {
-        return std::nullopt;
-    }
-    return Settings().value(Path(section, key), fallback).toString();
+    return texts_ ? std::optional(texts_->value(Path(section, key), fallback)) : std::nullopt;
 }
 
 void IniSettingsStore::Write(const QString& section, const QString& key, const QString& text) {
-    if (IsUsable()) {
-        Settings().setValue(Path(section, key), text);
-    }
+    staged_.insert(Path(section, key), text);
 }
 
 void IniSettingsStore::Commit() {
-    if (IsUsable()) {
-        Settings().sync();
+    const IniMap writes = std::exchange(staged_, {});
+    auto texts = ReadFile(fileName_);
+    if (!texts) {
+        return;
     }
-}
-
-bool IniSettingsStore::IsUsable() const {
-    const QFileInfo file(fileName_);
-    return !file.exists() || file.isFile();
-}
-
-QSettings& IniSettingsStore::Settings() {
-    if (!settings_) {
-        settings_.emplace(fileName_, LiteralIniFormat());
+    texts->insert(writes);
+    QDir().mkpath(QFileInfo(fileName_).path());
+    QSaveFile file(fileName_);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(ComposeIni(*texts).toUtf8());
+        file.commit();
     }
-    return *settings_;
 }

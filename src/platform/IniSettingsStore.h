@@ -3,18 +3,16 @@
 
 #pragma once
 
+#include "platform/IniText.h"
 #include "platform/SettingsStore.h"
 
-#include <QSettings>
 #include <QString>
 
 #include <optional>
 
-// The settings store in one INI file.
-//
-// Locking between copies of the game and the replacement of the whole file in one step are QSettings' own.
-// Writes that could not be made permanent are kept and tried again with the next Commit. A thing that is not
-// a plain file (a directory, a pipe) under the file's name is never opened.
+// The settings store in one INI file, which a commit replaces in one step. It is not locked: each commit writes what it
+// was given into the file as it finds it, and of two copies of the game that end a round at once the later one stands.
+// A thing that is no plain file (a directory, a pipe) under the file's name is never opened.
 class IniSettingsStore final : public SettingsStore {
 public:
     // Where this user's scores are: Kelvaro/KVR.ini in the configuration directory of the desktop.
@@ -28,10 +26,7 @@ public:
     void Commit() override;
 
 private:
-    bool IsUsable() const;
-    QSettings& Settings();
-
     QString fileName_;
-    std::optional<QSettings> settings_;
-    bool isReadable_ = false;
+    std::optional<IniMap> texts_; // as last read; nothing when that failed
+    IniMap staged_;
 };

@@ -6,12 +6,15 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <cctype>
 #include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+bool IsHexDigit(QChar c) {
+    return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
+}
 
 // The character that the escape at the front of `rest` stands for; `length` becomes the length of the escape.
 QChar Unescape(QStringView rest, qsizetype& length) {
@@ -24,7 +27,7 @@ QChar Unescape(QStringView rest, qsizetype& length) {
     case 't':
         return u'\t';
     case 'x': {
-        while (length < qMin<qsizetype>(6, rest.size()) && std::isxdigit(rest.at(length).toLatin1())) {
+        while (length < qMin<qsizetype>(6, rest.size()) && IsHexDigit(rest.at(length))) {
             ++length;
         }
         return length == 2 ? QChar(u'x') : QChar(rest.sliced(2, length - 2).toUShort(nullptr, 16));
@@ -78,8 +81,8 @@ QString ComposeValue(const QString& text) {
 
 } // namespace
 
-QSettings::SettingsMap ParseIni(const QString& text) {
-    QSettings::SettingsMap map;
+IniMap ParseIni(const QString& text) {
+    IniMap map;
     QString section;
     for (const QStringView rawLine : QStringView(text).split(u'\n')) {
         const QStringView line = rawLine.trimmed();
@@ -99,7 +102,7 @@ QSettings::SettingsMap ParseIni(const QString& text) {
     return map;
 }
 
-QString ComposeIni(const QSettings::SettingsMap& map) {
+QString ComposeIni(const IniMap& map) {
     QString text;
     QString section;
     for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
@@ -109,7 +112,7 @@ QString ComposeIni(const QSettings::SettingsMap& map) {
             section = entrySection;
             text += u'[' + section + u"]\n"_s;
         }
-        text += entry.key().sliced(slash + 1) + u'=' + ComposeValue(entry.value().toString()) + u'\n';
+        text += entry.key().sliced(slash + 1) + u'=' + ComposeValue(entry.value()) + u'\n';
     }
     return text;
 }

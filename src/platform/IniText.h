@@ -3,17 +3,20 @@
 
 #pragma once
 
-#include <QSettings>
+#include <QMap>
 #include <QString>
 
-// The text of an INI file as a map from "section/key" to texts and back. Sections and keys are taken as they
+// Texts by "section/key".
+using IniMap = QMap<QString, QString>;
+
+// The text of an INI file as a map and back. Sections and keys are taken as they
 // stand.
 //
 // A value is everything behind the first "=", without the blanks around it, to the letter: commas,
 // semicolons, backslashes, a leading @ and stray quotes mean nothing. Only a value that is one quoted text as
 // a whole, "like \"this\"", loses its quotes and has its escapes (\" \\ \n \r \t and \x with one to four hex
 // digits) undone. What is no line of that kind is passed over; of two lines with the same key the last holds.
-QSettings::SettingsMap ParseIni(const QString& text);
+IniMap ParseIni(const QString& text);
 
 // Parsing the result gives `map` again, whatever its texts hold.
-QString ComposeIni(const QSettings::SettingsMap& map);
+QString ComposeIni(const IniMap& map);

@@ -15,10 +15,10 @@ class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
 
-    // Takes up what the store holds now, this program's own writes included.
+    // Takes up what the store holds now.
     virtual void Refresh() = 0;
 
-    // The text as it stood at the last Refresh or Write; `fallback` where the store has none; nothing where
+    // The text as it stood at the last Refresh; `fallback` where the store has none; nothing where
     // the store cannot be read.
     virtual std::optional<QString> Read(const QString& section, const QString& key, const QString& fallback) = 0;
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
+#include "controls/Label.h"
+#include "controls/LineShape.h"
+#include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/Label.h"
-#include "mainwindow/LineShape.h"
-#include "mainwindow/Picture.h"
 #include "mainwindow/Prompts.h"
 #include "platform/Int16.h"
 #include "scoring/BoardLines.h"

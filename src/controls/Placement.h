@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "mainwindow/Twips.h"
+#include "controls/Twips.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/Picture.h"
+#include "controls/Picture.h"
 
 #include "platform/Int16.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "mainwindow/Placement.h"
+#include "controls/Placement.h"
 #include "pictures/PictureList.h"
 
 #include <QAbstractButton>

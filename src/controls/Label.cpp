@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/Label.h"
+#include "controls/Label.h"
 
 #include <QFontMetrics>
 
 namespace {
 
 constexpr int smallestPixelSize = 6;
+
+// More text than this fits nowhere, so no more is measured.
+constexpr int mostCharacters = 1000;
 
 } // namespace
 
@@ -73,9 +76,10 @@ bool Label::Fits(const QFont& font) const {
     // A label less than two lines high is meant for one.
     const int wrapping = 2 * QFontMetrics(font_).lineSpacing() <= room.height() ? Qt::TextWordWrap : 0;
     const QFontMetrics metrics(font);
-    const QRect needed = metrics.boundingRect(QRect(QPoint(), room), wrapping, text());
+    const QString measured = text().left(mostCharacters);
+    const QRect needed = metrics.boundingRect(QRect(QPoint(), room), wrapping, measured);
     // Below the last line's baseline only what is drawn counts: numerals need no room there.
-    const int drawnDescent = qMax(0, metrics.tightBoundingRect(text()).bottom() + 1);
+    const int drawnDescent = qMax(0, metrics.tightBoundingRect(measured).bottom() + 1);
     const int height = needed.height() - metrics.descent() + qMin(drawnDescent, metrics.descent());
     return needed.width() <= room.width() && height <= room.height();
 }

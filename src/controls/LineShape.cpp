@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/LineShape.h"
+#include "controls/LineShape.h"
 
-#include "mainwindow/Twips.h"
+#include "controls/Twips.h"
 
 #include <QPainter>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "mainwindow/Appearance.h"
+#include "controls/Appearance.h"
 
 #include <QPaintEvent>
 #include <QPainter>

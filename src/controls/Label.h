@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "mainwindow/Placement.h"
+#include "controls/Placement.h"
 
 #include <QLabel>
 
@@ -17,7 +17,6 @@ public:
     explicit Label(QWidget* parent);
 
     void SetCaption(const QString& caption);
-    QString Caption() const { return text(); }
 
     // Fills the label with `colour`, which is transparent otherwise.
     void SetBackground(const QColor& colour);
@@ -25,8 +24,7 @@ public:
     // Bounds the text more closely than the label does: what lies beyond is covered by another control.
     void SetRoom(const QSize& room);
 
-    // The pixel size that the text is meant to have, and the largest that it is given.
-    int DesignSize() const { return font_.pixelSize(); }
+    // Keeps the text at or below a size in pixels; its font's own size at first.
     void SetLargestSize(int pixelSize);
 
 protected:

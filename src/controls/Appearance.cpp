@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/Appearance.h"
+#include "controls/Appearance.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
