@@ -22,6 +22,44 @@ QSize Outer(const Form1& form) {
     return form.size().grownBy(form.windowHandle()->frameMargins());
 }
 
+const QColor table(0, 128, 0);
+
+bool IsTableGreen(const QColor& colour) {
+    return colour.red() <= 2 && qAbs(colour.green() - 128) <= 2 && colour.blue() <= 2;
+}
+
+// The contrast ratio of WCAG 2, 1 to 21.
+double Contrast(const QColor& a, const QColor& b) {
+    const auto luminance = [](const QColor& colour) {
+        const auto linear = [](double part) {
+            return part <= 0.03928 ? part / 12.92 : qPow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+    };
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+double StrongestContrast(const QImage& image, const QColor& background) {
+    double strongest = 1;
+    for (int at = 0; at < image.width() * image.height(); ++at) {
+        const QColor colour = image.pixelColor(at % image.width(), at / image.width());
+        strongest = qMax(strongest, Contrast(colour, background));
+    }
+    return strongest;
+}
+
+// The sum of all steps between neighbouring pixels, squared: blurring makes it smaller.
+double Detail(const QImage& image) {
+    double detail = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 1; x < image.width(); ++x) {
+            detail += qPow(qGray(image.pixel(x, y)) - qGray(image.pixel(x - 1, y)), 2);
+        }
+    }
+    return detail;
+}
+
 } // namespace
 
 class tst_window : public QObject {
@@ -150,7 +188,7 @@ private slots:
         }
     }
 
-    // The list pictures' indices, sizes and depths; and no visible box: their corners are the table's green.
+    // The list pictures' indices, sizes and depths; no visible box; and shapes that stand out against the table.
     void pictureLists() {
         GameDriver game;
         QSet<QByteArray> different;
@@ -163,14 +201,41 @@ private slots:
                 QCOMPARE(image.size(), size);
                 QVERIFY(!image.hasAlphaChannel() && image.depth() >= 24);
                 different.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
-                for (const QImage& shown :
-                     {image, list.Rendering(index, {50, 50}).toImage(), list.Rendering(index, {150, 150}).toImage()}) {
-                    const QColor corner = shown.pixelColor(0, 0);
-                    QVERIFY(corner.red() <= 2 && qAbs(corner.green() - 128) <= 2 && corner.blue() <= 2);
+                for (const int side : {50, 63, 75, 100, 150}) {
+                    const QImage shown = list.Rendering(index, {side, side}).toImage();
+                    for (const QPoint corner : {QPoint(0, 0), QPoint(side - 1, 0), QPoint(0, side - 1)}) {
+                        QVERIFY(IsTableGreen(shown.pixelColor(corner)));
+                    }
+                    QVERIFY(StrongestContrast(shown, table) >= 3);
+                }
+                // White numerals on the disc's face, wherever the light falls on it.
+                if (count == 13 && index > 1) {
+                    const QImage face = list.Image(13).copy(15, 15, 20, 20);
+                    for (int at = 0; at < 400; ++at) {
+                        QVERIFY(Contrast(face.pixelColor(at % 20, at / 20), Qt::white) >= 4.5);
+                    }
                 }
             }
         }
         QCOMPARE(different.size(), 19);
+        QVERIFY(Contrast(Qt::white, table) >= 4.5 && Contrast(Qt::black, table) >= 3);
+    }
+
+    // At twice the pixels a picture shows detail that scaling up cannot.
+    void picturesAreSharpAtEveryRatio() {
+        GameDriver game;
+        for (const char* name : {"img1_1", "Image1", "imgNewGame"}) {
+            QWidget& control = game.Find(name);
+            const auto grab = [&](qreal ratio) {
+                QImage image((QSizeF(control.size()) * ratio).toSize(), QImage::Format_RGB32);
+                image.setDevicePixelRatio(ratio);
+                control.render(&image);
+                return image;
+            };
+            const QImage sharp = grab(2);
+            const QImage blurred = grab(1).scaled(sharp.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            QVERIFY2(Detail(sharp) > 1.2 * Detail(blurred), name);
+        }
     }
 };
 

@@ -3,9 +3,18 @@
 
 #include "controls/Picture.h"
 
+#include "controls/Appearance.h"
 #include "platform/Int16.h"
 
 #include <QPainter>
+
+namespace {
+
+constexpr QColor hoverLight(255, 255, 255, 90);
+constexpr QColor pressedShade(196, 196, 196);
+constexpr qreal hoverEdge = 1.6; // pixels
+
+} // namespace
 
 void PictureFace::SetPicture(const PictureList& list, std::int16_t index) {
     CheckedIndex(index, 1, list.Count());
@@ -38,10 +47,28 @@ void Picture::paintEvent(QPaintEvent*) {
     PaintFace();
 }
 
-PictureButton::PictureButton(QWidget* parent) : QAbstractButton(parent), Placement(this), PictureFace(this) {
+PictureButton::PictureButton(QWidget* parent, const HotArea& hotArea)
+    : QAbstractButton(parent), Placement(this), PictureFace(this), hotArea_(hotArea) {
     setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_Hover);
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
     PaintFace();
+    if (!underMouse() || !wouldAct_()) {
+        return;
+    }
+    // Blended so that dark lettering stays dark and white stays white.
+    const bool isPressed = isDown();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(isPressed ? QPainter::CompositionMode_Multiply : QPainter::CompositionMode_Overlay);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isPressed ? pressedShade : hoverLight);
+    painter.drawRoundedRect(hotArea_.area, hotArea_.radius, hotArea_.radius);
+
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setPen(QPen(Colours::chart, hoverEdge));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(hotArea_.area, hotArea_.radius, hotArea_.radius);
 }

@@ -7,9 +7,12 @@
 #include "pictures/PictureList.h"
 
 #include <QAbstractButton>
+#include <QRectF>
 #include <QWidget>
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 
 // Which picture a control shows, and how it is put on the screen: filling the control, on whole device
 // pixels.
@@ -41,11 +44,25 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-// A picture to click: with the left button, released inside the picture.
+// A picture to click: with the left button, released inside the picture. Under the pointer it lights up, and pressed it
+// darkens, but only while a click would do something.
 class PictureButton final : public QAbstractButton, public Placement, public PictureFace {
 public:
-    explicit PictureButton(QWidget* parent);
+    // What lights up, in pixels: a rounded rectangle within the picture.
+    struct HotArea {
+        QRectF area;
+        qreal radius;
+    };
+
+    PictureButton(QWidget* parent, const HotArea& hotArea);
+
+    // Tells the button how to find out whether a click would do something; without this it always would.
+    void SetWouldAct(std::function<bool()> wouldAct) { wouldAct_ = std::move(wouldAct); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    HotArea hotArea_;
+    std::function<bool()> wouldAct_ = [] { return true; };
 };

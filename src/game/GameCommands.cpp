@@ -38,6 +38,7 @@ void Form1::StartNewGame() {
     imgRolled1_->hide();
     imgRolled2_->hide();
     lblRolled_->SetCaption(QString());
+    RepaintHoveredCell();
 }
 
 void Form1::imgNewGame_Click() {

@@ -45,6 +45,11 @@ constexpr std::array<LineShape::Ends, Board::Side> columnStrikes{{
     {3960, 4200, 3960, 720},
 }};
 
+// What the pointer lights up: the inside of a cell's dotted edge, and the plates of the two picture buttons.
+const PictureButton::HotArea cellArea{{2.5, 2.5, 45, 45}, 6};
+const PictureButton::HotArea rollPlate{{15, 10, 167, 52}, 14};
+const PictureButton::HotArea newGamePlate{{24, 10, 165, 52}, 14};
+
 constexpr double Nth(double first, std::int16_t number) {
     return first + pitch * (number - 1);
 }
@@ -130,9 +135,10 @@ void Form1::ComposeStrikeLines(QWidget* table) {
 void Form1::ComposeCells(QWidget* table) {
     for (std::int16_t row = 1; row <= Board::Side; row = CheckedAdd(row, 1)) {
         for (std::int16_t column = 1; column <= Board::Side; column = CheckedAdd(column, 1)) {
-            auto* cell = Named(new PictureButton(table), u"img%1_%2"_s.arg(row).arg(column));
+            auto* cell = Named(new PictureButton(table, cellArea), u"img%1_%2"_s.arg(row).arg(column));
             cell->Place(Nth(firstLeft, column), Nth(firstTop, row), cellSize, cellSize);
             cell->SetPicture(imageList2_, 1);
+            cell->SetWouldAct([=, this] { return pendingRoll_ != 0 && board_.At(row, column) == 0; });
             connect(cell, &PictureButton::clicked, this, [=, this] { PlaceRoll(*cell, row, column); });
             cells_[static_cast<std::size_t>((row - 1) * Board::Side + column - 1)] = cell;
         }
@@ -164,7 +170,7 @@ void Form1::ComposeReadOuts(QWidget* table) {
 void Form1::ComposeButtonStrip(QWidget* table) {
     line1_ = Named(new LineShape(table, {0, 5640, 6120, 5640}, separatorThickness, Colours::white), u"Line1"_s);
 
-    imgNewGame_ = Named(new PictureButton(table), u"imgNewGame"_s);
+    imgNewGame_ = Named(new PictureButton(table, newGamePlate), u"imgNewGame"_s);
     imgNewGame_->SetPicture(newGamePicture_, 1);
     imgNewGame_->Place(3120, 5760, 2955, 1125);
     connect(imgNewGame_, &PictureButton::clicked, this, &Form1::imgNewGame_Click);
@@ -174,7 +180,7 @@ void Form1::ComposeButtonStrip(QWidget* table) {
     lblRolled_->SetBackground(Colours::table);
     lblRolled_->Place(2040, 5880, 1305, 825);
 
-    image1_ = Named(new PictureButton(table), u"Image1"_s);
+    image1_ = Named(new PictureButton(table, rollPlate), u"Image1"_s);
     image1_->SetPicture(rollPicture_, 1);
     image1_->Place(0, 5760, 2955, 1125);
     connect(image1_, &PictureButton::clicked, this, &Form1::Image1_Click);
@@ -209,6 +215,14 @@ Form1::LineControls& Form1::Row(std::int16_t row) {
 
 Form1::LineControls& Form1::Column(std::int16_t column) {
     return lineControls_[static_cast<std::size_t>(Board::Side + CheckedIndex(column, 1, Board::Side) - 1)];
+}
+
+void Form1::RepaintHoveredCell() {
+    for (PictureButton* cell : cells_) {
+        if (cell->underMouse()) {
+            cell->update();
+        }
+    }
 }
 
 void Form1::SetPrompt(const QString& prompt) {

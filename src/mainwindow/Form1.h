@@ -91,6 +91,8 @@ private:
     PictureButton& Cell(std::int16_t row, std::int16_t column) const;
     LineControls& Row(std::int16_t row);
     LineControls& Column(std::int16_t column);
+    // Lets the cell under the pointer follow a change of what a click on it would do.
+    void RepaintHoveredCell();
     void SetPrompt(const QString& prompt);
 
     // mainwindow/: layout
