@@ -25,14 +25,19 @@ void Form1::showEvent(QShowEvent* event) {
 bool Form1::eventFilter(QObject* watched, QEvent* event) {
     // The window manager announces no change of its frame; it is settled when the window can be seen.
     if (watched == windowHandle() && event->type() == QEvent::Expose && windowHandle()->isExposed()) {
-        TakeUpFrame();
+        if (!isFrameKnown_) {
+            Form_FirstPicture();
+        } else if (windowHandle()->frameMargins() != frame_) {
+            Form_FrameChanged();
+        }
     }
     return QMainWindow::eventFilter(watched, event);
 }
 
 void Form1::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    if (isFrameKnown_ && !TakeUpFrame()) {
+    if (isFrameKnown_) {
+        frame_ = windowHandle()->frameMargins();
         Form_Resize();
     }
 }

@@ -99,8 +99,8 @@ private:
     void Form_Resize();
     void LayOutHorizontally(double outerWidth);
     void LayOutVertically(double outerHeight);
-    // Reads the frame's size and, when it is news, lays the window out for it; tells whether it did.
-    bool TakeUpFrame();
+    void Form_FirstPicture();
+    void Form_FrameChanged();
     QSize OuterSize() const;
     void SetOuterWidth(double twips);
     void SetOuterHeight(double twips);

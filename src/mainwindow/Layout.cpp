@@ -115,23 +115,20 @@ void Form1::LayOutVertically(double outerHeight) {
     lblTotal_->SetTop(anchor + 5 * pitch);
 }
 
-bool Form1::TakeUpFrame() {
-    const QMargins frame = windowHandle()->frameMargins();
-    if (isFrameKnown_ && frame == frame_) {
-        return false;
-    }
-    const bool isFirstPicture = !isFrameKnown_;
+void Form1::Form_FirstPicture() {
     isFrameKnown_ = true;
-    frame_ = frame;
-
+    frame_ = windowHandle()->frameMargins();
     // Telling the window manager as well spares the player the flicker of a window that snaps back.
-    const QSize minimum(ToPixels(floorWidth), ToPixels(floorHeight));
-    windowHandle()->setMinimumSize(minimum.shrunkBy(frame_));
+    windowHandle()->setMinimumSize(QSize(ToPixels(floorWidth), ToPixels(floorHeight)).shrunkBy(frame_));
     Form_Resize();
-    if (isFirstPicture) {
-        windowHandle()->setFramePosition(CentredOn(screen()->geometry(), OuterSize()));
-    }
-    return true;
+    windowHandle()->setFramePosition(CentredOn(screen()->geometry(), OuterSize()));
+}
+
+void Form1::Form_FrameChanged() {
+    // Without the floors: a window manager that maximises a window changes its frame first and its size a moment later.
+    frame_ = windowHandle()->frameMargins();
+    LayOutHorizontally(ToTwips(OuterSize().width()));
+    LayOutVertically(ToTwips(OuterSize().height()));
 }
 
 QSize Form1::OuterSize() const {
