@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
+#include "controls/AccessibleTable.h"
 #include "mainwindow/Form1.h"
 #include "platform/Clock.h"
 #include "platform/EventPump.h"
@@ -31,6 +32,7 @@ int main(int, char* argv[]) {
     QApplication application(noArguments, argv);
     qInstallMessageHandler(standardHandler);
 
+    InstallAccessibleTables();
     SystemClock clock;
     EntropyGenerator generator;
     QtEventPump pump;

@@ -6,13 +6,17 @@
 #include "controls/Appearance.h"
 #include "platform/Int16.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
 
 constexpr QColor hoverLight(255, 255, 255, 90);
 constexpr QColor pressedShade(196, 196, 196);
-constexpr qreal hoverEdge = 1.6; // pixels
+// In pixels.
+constexpr qreal hoverEdge = 1.6;
+constexpr qreal focusEdge = 2;
+constexpr qreal focusOutset = 2.5; // how far the focus reaches over the hot area
 
 } // namespace
 
@@ -49,19 +53,64 @@ void Picture::paintEvent(QPaintEvent*) {
 
 PictureButton::PictureButton(QWidget* parent, const HotArea& hotArea)
     : QAbstractButton(parent), Placement(this), PictureFace(this), hotArea_(hotArea) {
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
+}
+
+bool PictureButton::event(QEvent* event) {
+    // A shortcut is asked for as an override first and never arrives as a key.
+    if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
+        ShowFocus(true);
+    }
+    return QAbstractButton::event(event);
+}
+
+void PictureButton::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Select:
+        QAbstractButton::keyPressEvent(event);
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!event->isAutoRepeat()) {
+            click();
+        }
+        break;
+    default:
+        event->ignore();
+    }
+}
+
+void PictureButton::mousePressEvent(QMouseEvent* event) {
+    ShowFocus(false);
+    QAbstractButton::mousePressEvent(event);
+}
+
+void PictureButton::ShowFocus(bool isShown) {
+    if (window()->testAttribute(Qt::WA_KeyboardFocusChange) != isShown) {
+        window()->setAttribute(Qt::WA_KeyboardFocusChange, isShown);
+        if (QWidget* focused = window()->focusWidget()) {
+            focused->update();
+        }
+    }
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
     PaintFace();
-    if (!underMouse() || !wouldAct_()) {
-        return;
-    }
-    // Blended so that dark lettering stays dark and white stays white.
-    const bool isPressed = isDown();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (underMouse() && wouldAct_()) {
+        PaintPointer(painter);
+    }
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        PaintFocus(painter);
+    }
+}
+
+void PictureButton::PaintPointer(QPainter& painter) const {
+    // Blended so that dark lettering stays dark and white stays white.
+    const bool isPressed = isDown();
     painter.setCompositionMode(isPressed ? QPainter::CompositionMode_Multiply : QPainter::CompositionMode_Overlay);
     painter.setPen(Qt::NoPen);
     painter.setBrush(isPressed ? pressedShade : hoverLight);
@@ -71,4 +120,16 @@ void PictureButton::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(Colours::chart, hoverEdge));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(hotArea_.area, hotArea_.radius, hotArea_.radius);
+}
+
+void PictureButton::PaintFocus(QPainter& painter) const {
+    // Black inside white: one of the two stands out against whatever lies under it.
+    painter.setBrush(Qt::NoBrush);
+    for (const auto& [colour, inset] :
+         {std::pair(Colours::white, focusEdge / 2), std::pair(Colours::black, focusEdge * 1.5)}) {
+        const qreal outset = focusOutset - inset;
+        painter.setPen(QPen(colour, focusEdge));
+        painter.drawRoundedRect(hotArea_.area.adjusted(-outset, -outset, outset, outset), hotArea_.radius,
+                                hotArea_.radius);
+    }
 }

@@ -14,6 +14,8 @@
 #include <functional>
 #include <utility>
 
+class QPainter;
+
 // Which picture a control shows, and how it is put on the screen: filling the control, on whole device
 // pixels.
 class PictureFace {
@@ -44,8 +46,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-// A picture to click: with the left button, released inside the picture. Under the pointer it lights up, and pressed it
-// darkens, but only while a click would do something.
+// A picture to click: with the left button, released inside the picture, or with Space or Enter. Under the pointer it
+// lights up, and pressed it darkens, but only while a click would do something. Its focus is drawn from the first key
+// on and no longer when the mouse is used.
 class PictureButton final : public QAbstractButton, public Placement, public PictureFace {
 public:
     // What lights up, in pixels: a rounded rectangle within the picture.
@@ -60,9 +63,16 @@ public:
     void SetWouldAct(std::function<bool()> wouldAct) { wouldAct_ = std::move(wouldAct); }
 
 protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void ShowFocus(bool isShown);
+    void PaintPointer(QPainter& painter) const;
+    void PaintFocus(QPainter& painter) const;
+
     HotArea hotArea_;
     std::function<bool()> wouldAct_ = [] { return true; };
 };

@@ -16,6 +16,7 @@ frmAbout::frmAbout()
     auto* picture = new Picture(this);
     picture->setObjectName(u"Image1"_s);
     picture->SetPicture(titlePicture_, 1);
+    picture->setAccessibleName(u"A red disc and a die"_s);
     picture->setGeometry(8, 8, 72, 76);
 
     // White under grey, shifted by a pixel: an etched groove.

@@ -4,6 +4,8 @@
 #include "controls/Label.h"
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
+#include "mainwindow/SpokenNames.h"
+#include "platform/Int16.h"
 #include "platform/Process.h"
 
 #include <QAction>
@@ -30,14 +32,20 @@ void Form1::StartNewGame() {
     board_.Clear();
     pendingRoll_ = 0;
     UpdateScores();
-    for (PictureButton* cell : cells_) {
-        cell->SetPicture(imageList2_, 1);
+    for (std::int16_t row = 1; row <= Board::Side; row = CheckedAdd(row, 1)) {
+        for (std::int16_t column = 1; column <= Board::Side; column = CheckedAdd(column, 1)) {
+            Cell(row, column).SetPicture(imageList2_, 1);
+            Cell(row, column).setAccessibleName(SpokenNames::Cell(row, column, 0));
+        }
     }
     mnuGameRoll_->setEnabled(true);
     image1_->show();
+    image1_->setFocus();
     imgRolled1_->hide();
     imgRolled2_->hide();
     lblRolled_->SetCaption(QString());
+    lblRolled_->setAccessibleName(SpokenNames::Roll(0));
+    currentCell_ = {};
     RepaintHoveredCell();
 }
 

@@ -4,6 +4,7 @@
 #include "controls/Label.h"
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
+#include "mainwindow/SpokenNames.h"
 
 #include <QAction>
 
@@ -13,12 +14,16 @@ void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column
     }
     // Before the scoring, which takes rolling away again when the board is full.
     image1_->show();
+    image1_->setFocus();
     mnuGameRoll_->setEnabled(true);
 
     board_.Set(row, column, pendingRoll_);
     cell.SetPicture(imageList2_, pendingRoll_);
+    cell.setAccessibleName(SpokenNames::Cell(row, column, pendingRoll_));
+    currentCell_ = {row, column};
     pendingRoll_ = 0;
     lblRolled_->SetCaption(QString());
+    lblRolled_->setAccessibleName(SpokenNames::Roll(0));
     imgRolled1_->hide();
     imgRolled2_->hide();
     UpdateScores();

@@ -6,12 +6,15 @@
 #include "game/Dice.h"
 #include "mainwindow/Form1.h"
 #include "mainwindow/Prompts.h"
+#include "mainwindow/SpokenNames.h"
 #include "platform/Clock.h"
 #include "platform/EventPump.h"
 #include "platform/Int16.h"
 #include "platform/UniformGenerator.h"
 
 #include <QAction>
+
+using namespace Qt::StringLiterals;
 
 void Form1::Image1_Click() {
     RollDice();
@@ -25,6 +28,7 @@ void Form1::RollDice() {
     if (pendingRoll_ != 0) {
         return;
     }
+    FocusEmptyCell();
     image1_->hide();
     mnuGameRoll_->setEnabled(false);
 
@@ -34,6 +38,8 @@ void Form1::RollDice() {
     pendingRoll_ = CheckedAdd(secondDie, firstDie);
     imgRolled1_->SetPicture(imageList1_, firstDie);
     imgRolled2_->SetPicture(imageList1_, secondDie);
+    imgRolled1_->setAccessibleName(SpokenNames::Die(u"First"_s, firstDie));
+    imgRolled2_->setAccessibleName(SpokenNames::Die(u"Second"_s, secondDie));
 
     // The roll may be placed, or a new game begun, inside either pause; what follows is done all the same,
     // from the fields as they then stand.
@@ -43,6 +49,7 @@ void Form1::RollDice() {
     imgRolled2_->show();
     Pause();
     lblRolled_->SetCaption(RolledCaption(pendingRoll_));
+    lblRolled_->setAccessibleName(SpokenNames::Roll(pendingRoll_));
     SetPrompt(Prompts::select);
 }
 

@@ -84,6 +84,7 @@ Form1::Form1(const Platform& platform)
 
     ComposeMenus();
     auto* table = new GreenTable<QWidget>;
+    table->setAccessibleName(u"Game table"_s);
     setCentralWidget(table);
     // Back to front: strike lines under the cells that they join; in the strip, which is crowded in a narrow window,
     // the new-game button, the sum, the roll button and the dice.
@@ -172,6 +173,7 @@ void Form1::ComposeButtonStrip(QWidget* table) {
 
     imgNewGame_ = Named(new PictureButton(table, newGamePlate), u"imgNewGame"_s);
     imgNewGame_->SetPicture(newGamePicture_, 1);
+    imgNewGame_->setAccessibleName(u"New Game"_s);
     imgNewGame_->Place(3120, 5760, 2955, 1125);
     connect(imgNewGame_, &PictureButton::clicked, this, &Form1::imgNewGame_Click);
 
@@ -182,6 +184,7 @@ void Form1::ComposeButtonStrip(QWidget* table) {
 
     image1_ = Named(new PictureButton(table, rollPlate), u"Image1"_s);
     image1_->SetPicture(rollPicture_, 1);
+    image1_->setAccessibleName(u"Roll Dice"_s);
     image1_->Place(0, 5760, 2955, 1125);
     connect(image1_, &PictureButton::clicked, this, &Form1::Image1_Click);
 

@@ -46,6 +46,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -54,6 +56,12 @@ private:
         Label* readOut = nullptr;
         Picture* marker = nullptr;
         LineShape* strike = nullptr;
+    };
+
+    // Where the keyboard is in the grid.
+    struct CellPosition {
+        std::int16_t row = 1;
+        std::int16_t column = 1;
     };
 
     // game/
@@ -95,6 +103,10 @@ private:
     void RepaintHoveredCell();
     void SetPrompt(const QString& prompt);
 
+    // mainwindow/: keyboard. The grid, the roll button and the new-game button are one stop of the Tab key each.
+    void FocusGrid();
+    void FocusEmptyCell(); // the current cell, or the next empty one in reading order
+
     // mainwindow/: layout
     void Form_Resize();
     void LayOutHorizontally(double outerWidth);
@@ -113,6 +125,7 @@ private:
     bool isLoaded_ = false;
     bool isFrameKnown_ = false;
     QMargins frame_;
+    CellPosition currentCell_;
 
     PictureList imageList1_;
     PictureList imageList2_;

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QLatin1String>
+
 #include <cstdint>
 
 // What a line can be worth; each category's value is its points.
@@ -17,3 +19,6 @@ enum class HandCategory : std::int16_t {
     LargeStraight = 40,
     FiveOfAKind = 50,
 };
+
+// The category's name as the scoring chart has it.
+QLatin1String HandName(HandCategory category);

@@ -6,6 +6,7 @@
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
 #include "mainwindow/Prompts.h"
+#include "mainwindow/SpokenNames.h"
 #include "platform/Int16.h"
 #include "scoring/BoardLines.h"
 
@@ -18,6 +19,7 @@ void Form1::UpdateScores() {
         const LineControls& controls = lineControls_[at];
         if (score) {
             controls.readOut->SetCaption(QString::number(*score));
+            controls.readOut->setAccessibleName(SpokenNames::Line(boardLines[at], *score));
         }
         controls.readOut->setVisible(score.has_value());
         controls.marker->setVisible(score.has_value());
@@ -25,6 +27,7 @@ void Form1::UpdateScores() {
         total = CheckedAdd(total, score.value_or(0));
     }
     lblTotal_->SetCaption(QString::number(total));
+    lblTotal_->setAccessibleName(SpokenNames::Total(total));
 
     if (!board_.IsFull()) {
         SetPrompt(Prompts::roll);

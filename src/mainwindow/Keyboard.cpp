@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "controls/Picture.h"
+#include "mainwindow/Form1.h"
+#include "platform/Int16.h"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+// The neighbour of 1..5 in a direction, wrapping at the edges.
+std::int16_t Wrapped(std::int16_t number, int direction) {
+    return static_cast<std::int16_t>((number - 1 + direction + Board::Side) % Board::Side + 1);
+}
+
+} // namespace
+
+void Form1::keyPressEvent(QKeyEvent* event) {
+    auto [row, column] = currentCell_;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        column = Wrapped(column, -1);
+        break;
+    case Qt::Key_Right:
+        column = Wrapped(column, 1);
+        break;
+    case Qt::Key_Up:
+        row = Wrapped(row, -1);
+        break;
+    case Qt::Key_Down:
+        row = Wrapped(row, 1);
+        break;
+    case Qt::Key_Home:
+        column = 1;
+        break;
+    case Qt::Key_End:
+        column = Board::Side;
+        break;
+    default:
+        QMainWindow::keyPressEvent(event);
+        return;
+    }
+    // From a button the first key only enters the grid.
+    if (Cell(currentCell_.row, currentCell_.column).hasFocus()) {
+        currentCell_ = {row, column};
+    }
+    FocusGrid();
+}
+
+bool Form1::focusNextPrevChild(bool next) {
+    std::array<QWidget*, 3> stops{&Cell(currentCell_.row, currentCell_.column), image1_, imgNewGame_};
+    if (!next) {
+        std::ranges::reverse(stops);
+    }
+    // A control that is being hidden gives its focus away too, so only its place in the order counts.
+    std::ranges::rotate(stops, std::ranges::find(stops, focusWidget()));
+    const auto target = std::ranges::find_if(stops.begin() + 1, stops.end(), &QWidget::isVisible);
+    if (target != stops.end()) {
+        (*target)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    }
+    return true;
+}
+
+void Form1::FocusGrid() {
+    Cell(currentCell_.row, currentCell_.column).setFocus(Qt::OtherFocusReason);
+}
+
+void Form1::FocusEmptyCell() {
+    for (int tried = 0; tried < Board::Side * Board::Side && board_.At(currentCell_.row, currentCell_.column) != 0;
+         ++tried) {
+        currentCell_.column = Wrapped(currentCell_.column, 1);
+        if (currentCell_.column == 1) {
+            currentCell_.row = Wrapped(currentCell_.row, 1);
+        }
+    }
+    FocusGrid();
+}
