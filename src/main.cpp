@@ -14,6 +14,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Qt answers a missing display with a core dump.
@@ -32,6 +34,7 @@ int main(int, char* argv[]) {
     QApplication application(noArguments, argv);
     qInstallMessageHandler(standardHandler);
 
+    QGuiApplication::setDesktopFileName(u"io.github.kelvaro.Kelvaro"_s);
     InstallAccessibleTables();
     SystemClock clock;
     EntropyGenerator generator;

@@ -54,11 +54,12 @@ void Form1::keyPressEvent(QKeyEvent* event) {
 bool Form1::focusNextPrevChild(bool next) {
     std::array<QWidget*, 3> stops{&Cell(currentCell_.row, currentCell_.column), image1_, imgNewGame_};
     if (!next) {
-        std::ranges::reverse(stops);
+        std::reverse(stops.begin(), stops.end());
     }
     // A control that is being hidden gives its focus away too, so only its place in the order counts.
-    std::ranges::rotate(stops, std::ranges::find(stops, focusWidget()));
-    const auto target = std::ranges::find_if(stops.begin() + 1, stops.end(), &QWidget::isVisible);
+    std::rotate(stops.begin(), std::find(stops.begin(), stops.end(), focusWidget()), stops.end());
+    const auto target =
+        std::find_if(stops.begin() + 1, stops.end(), [](const QWidget* stop) { return stop->isVisible(); });
     if (target != stops.end()) {
         (*target)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     }
