@@ -49,28 +49,29 @@ private slots:
 
     void keysMoveTheFocus() {
         GameDriver game;
-        QCOMPARE(Focused(game), "Image1");
-        for (const auto& [key, focused] :
-             std::initializer_list<std::pair<Qt::Key, const char*>>{{Qt::Key_Tab, "imgNewGame"},
-                                                                    {Qt::Key_Tab, "img1_1"},
-                                                                    {Qt::Key_Left, "img1_5"},
-                                                                    {Qt::Key_Up, "img5_5"},
-                                                                    {Qt::Key_Home, "img5_1"},
-                                                                    {Qt::Key_Down, "img1_1"},
-                                                                    {Qt::Key_End, "img1_5"},
-                                                                    {Qt::Key_Right, "img1_1"},
-                                                                    {Qt::Key_Down, "img2_1"},
-                                                                    {Qt::Key_Backtab, "imgNewGame"},
-                                                                    {Qt::Key_Up, "img2_1"},
-                                                                    {Qt::Key_Tab, "Image1"}}) {
+        QString path = Focused(game);
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Left, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down,
+                                  Qt::Key_End, Qt::Key_Right, Qt::Key_Down, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Tab}) {
             Press(game, key);
-            QCOMPARE(Focused(game), focused);
+            path += ' ' + Focused(game);
         }
+        QCOMPARE(path,
+                 "Image1 imgNewGame img1_1 img1_5 img5_5 img5_1 img1_1 img1_5 img1_1 img2_1 imgNewGame img2_1 Image1");
+        // A screen reader moves the focus past the keyboard.
+        auto* cell = QAccessible::queryAccessibleInterface(&game.Find("img4_4"));
+        cell->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        Press(game, Qt::Key_Right);
+        QCOMPARE(Focused(game), "img4_5");
+        Press(game, Qt::Key_Tab);
         // Hidden by a roll, the button hands the focus to the grid; after New Game and its dialog it is back.
         Press(game, Qt::Key_Return);
-        QCOMPARE(Focused(game), "img2_1");
+        QCOMPARE(Focused(game), "img4_5");
         Press(game, Qt::Key_Tab);
         QCOMPARE(Focused(game), "imgNewGame");
+        // Enter acts on release: held down it must not answer the question that it opens.
+        QTest::keyPress(game.form.focusWidget(), Qt::Key_Return);
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
+        QTest::mouseClick(&game.Find("img4_5"), Qt::RightButton);
         GameDriver::InDialog([&] { Press(game, Qt::Key_Space); },
                              [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
         QCOMPARE(Focused(game), "imgNewGame");
@@ -100,14 +101,41 @@ private slots:
             QCOMPARE(game.form.PendingRoll(), 0);
             QCOMPARE(Focused(game), "Image1");
         }
+        QVERIFY(game.CanRoll());
+        QCOMPARE(game.platform.store.commits, 0);
+        const auto checkAndClose = [&](QDialog& dialog) {
+            QCOMPARE(game.platform.store.commits, 1);
+            QCOMPARE(game.Prompt(), "Game Over!");
+            const QString first = dialog.findChild<QLabel*>("lblHighScore(0)")->text();
+            QCOMPARE(first, game.Caption("lblTotal") + "  2026/1/5 9:05");
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        };
         game.platform.pump.actions[game.platform.pump.passes + 1] = [&] {
-            GameDriver::InDialog([&] { Press(game, Qt::Key_Return); },
-                                 [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+            GameDriver::InDialog([&] { Press(game, Qt::Key_Return); }, checkAndClose);
         };
         Press(game, Qt::Key_Space);
-        QVERIFY(game.form.GameBoard().IsFull());
+        QVERIFY(game.form.GameBoard().IsFull() && !game.IsShown("Image1"));
+        QVERIFY(!game.Find<QAction>("mnuGameRoll").isEnabled());
+        QCOMPARE(game.Caption("lblRolled"), "= 0");
         QCOMPARE(game.form.HighScores().Score(1), game.Caption("lblTotal").toInt());
+        // A full board is replaced without a question.
         QCOMPARE(Focused(game), "imgNewGame");
+        Press(game, Qt::Key_Space);
+        QVERIFY(game.form.GameBoard() == Board());
+        QCOMPARE(Focused(game), "Image1");
+    }
+
+    // The pointer lights a cell up only while a click would do something.
+    void hoverFollowsTheRoll() {
+        GameDriver game;
+        PictureButton& cell = game.Find<PictureButton>("img3_3");
+        const QImage plain = cell.grab().toImage();
+        cell.setAttribute(Qt::WA_UnderMouse);
+        QCOMPARE(cell.grab().toImage(), plain);
+        game.Roll(1, 2);
+        QVERIFY(cell.grab().toImage() != plain);
+        game.Click("img1_1");
+        QCOMPARE(cell.grab().toImage(), plain);
     }
 
     void everyControlSpeaks() {
@@ -133,18 +161,18 @@ private slots:
         QTRY_COMPARE(game.form.GameBoard().At(2, 4), 7);
         QCOMPARE(cell->text(QAccessible::Name), "Row 2, column 4: 7");
 
-        // In a dialog the texts come first, line by line.
-        GameDriver::InDialog([&] { game.Choose("mnuHelpHow"); },
-                             [](QDialog& dialog) {
-                                 const QStringList lines = Names(dialog);
-                                 QCOMPARE(lines.first(), "Game Play");
-                                 QVERIFY(lines[3].startsWith("Pair = 5 points"));
-                                 QCOMPARE(lines.last(), "OK");
-                             });
-        for (const char* entry : {"mnuHelpAbout", "mnuGameHigh", "mnuNewGame"}) {
-            GameDriver::InDialog([&] { game.Choose(entry); },
-                                 [](QDialog& dialog) { QVERIFY(Names(dialog).size() > 2); });
+        // Dialogs are read from the top, their buttons last.
+        for (const auto& [entry, spoken] : std::initializer_list<std::pair<const char*, const char*>>{
+                 {"mnuHelpAbout", "Kelvaro|Version 1.0|A red disc and a die|Support: the Kelvaro issue tracker|"
+                                  "Copyright \u00a9 2026 the Kelvaro developers|OK"},
+                 {"mnuGameHigh", "0  |0  |0  |0  |0  |OK|Reset Scores"}}) {
+            QString heard;
+            GameDriver::InDialog([&, name = entry] { game.Choose(name); },
+                                 [&](QDialog& dialog) { heard = Names(dialog).join('|'); });
+            QCOMPARE(heard, QString::fromUtf8(spoken));
         }
+        GameDriver::InDialog([&] { game.Choose("mnuHelpHow"); },
+                             [](QDialog& dialog) { QVERIFY(Names(dialog)[3].startsWith("Pair = 5 points")); });
     }
 };
 

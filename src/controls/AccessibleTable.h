@@ -4,6 +4,6 @@
 #pragma once
 
 // Makes green tables speak: of its children a table lists those that are shown and have something to say, so that
-// neither hidden controls nor strike lines and arrows are found; a dialog lists its texts before its buttons. Call
-// once, before the first window is made.
+// neither hidden controls nor strike lines and arrows are found, from the top down, push buttons last. Tables have the
+// role of a grouping or a dialog, pictures that of a graphic. Call once, before the first window is made.
 void InstallAccessibleTables();

@@ -18,6 +18,19 @@ constexpr qreal hoverEdge = 1.6;
 constexpr qreal focusEdge = 2;
 constexpr qreal focusOutset = 2.5; // how far the focus reaches over the hot area
 
+bool IsModifier(int key) {
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr
+           || key == Qt::Key_Meta;
+}
+
+// Enter as the Space that a button knows: it acts on release, so that a key held down does not go on to answer the
+// question that it opened.
+QKeyEvent PressKey(const QKeyEvent& event) {
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Select;
+    return QKeyEvent(event.type(), isEnter ? Qt::Key_Space : event.key(), event.modifiers(), event.text(),
+                     event.isAutoRepeat());
+}
+
 } // namespace
 
 void PictureFace::SetPicture(const PictureList& list, std::int16_t index) {
@@ -29,18 +42,31 @@ void PictureFace::SetPicture(const PictureList& list, std::int16_t index) {
     }
 }
 
+QPointF PictureFace::FaceOffset() const {
+    // At a fractional ratio a control's corner falls between device pixels. The picture starts at the nearest one and
+    // is rendered in whole pixels, so that nothing is interpolated on the way to the screen.
+    const qreal ratio = control_->devicePixelRatioF();
+    const QPointF corner = control_->mapTo(control_->window(), QPoint());
+    return QPointF((corner * ratio).toPoint()) / ratio - corner;
+}
+
 void PictureFace::PaintFace() const {
     if (list_ == nullptr) {
         return;
     }
-    // At a fractional ratio a control's corner falls between device pixels. The picture starts at the nearest
-    // one and is rendered in whole pixels, so that nothing is interpolated on the way to the screen.
     const qreal ratio = control_->devicePixelRatioF();
-    const QPointF corner = control_->mapTo(control_->window(), QPoint());
-    const QPointF snapped = QPointF((corner * ratio).toPoint()) / ratio;
     QPixmap pixmap = list_->Rendering(index_, (QSizeF(control_->size()) * ratio).toSize());
     pixmap.setDevicePixelRatio(ratio);
-    QPainter(control_).drawPixmap(snapped - corner, pixmap);
+    QPainter(control_).drawPixmap(FaceOffset(), pixmap);
+}
+
+void ShowKeyboardFocus(QWidget& window, bool isShown) {
+    if (window.testAttribute(Qt::WA_KeyboardFocusChange) != isShown) {
+        window.setAttribute(Qt::WA_KeyboardFocusChange, isShown);
+        if (QWidget* focused = window.focusWidget()) {
+            focused->update();
+        }
+    }
 }
 
 Picture::Picture(QWidget* parent) : QWidget(parent), Placement(this), PictureFace(this) {
@@ -60,47 +86,37 @@ PictureButton::PictureButton(QWidget* parent, const HotArea& hotArea)
 bool PictureButton::event(QEvent* event) {
     // A shortcut is asked for as an override first and never arrives as a key.
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
-        ShowFocus(true);
+        if (!IsModifier(static_cast<QKeyEvent*>(event)->key())) {
+            ShowKeyboardFocus(*window(), true);
+        }
     }
     return QAbstractButton::event(event);
 }
 
 void PictureButton::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Select:
-        QAbstractButton::keyPressEvent(event);
-        break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!event->isAutoRepeat()) {
-            click();
-        }
-        break;
-    default:
+    if (QKeyEvent press = PressKey(*event); press.key() == Qt::Key_Space) {
+        QAbstractButton::keyPressEvent(&press);
+    } else {
         event->ignore();
     }
 }
 
-void PictureButton::mousePressEvent(QMouseEvent* event) {
-    ShowFocus(false);
-    QAbstractButton::mousePressEvent(event);
+void PictureButton::keyReleaseEvent(QKeyEvent* event) {
+    QKeyEvent release = PressKey(*event);
+    QAbstractButton::keyReleaseEvent(&release);
 }
 
-void PictureButton::ShowFocus(bool isShown) {
-    if (window()->testAttribute(Qt::WA_KeyboardFocusChange) != isShown) {
-        window()->setAttribute(Qt::WA_KeyboardFocusChange, isShown);
-        if (QWidget* focused = window()->focusWidget()) {
-            focused->update();
-        }
-    }
+void PictureButton::mousePressEvent(QMouseEvent* event) {
+    ShowKeyboardFocus(*window(), false);
+    QAbstractButton::mousePressEvent(event);
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
     PaintFace();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (underMouse() && wouldAct_()) {
+    painter.translate(FaceOffset());
+    if ((underMouse() || isDown()) && wouldAct_()) {
         PaintPointer(painter);
     }
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {

@@ -29,6 +29,8 @@ public:
     std::int16_t Index() const { return index_; }
 
 protected:
+    // Where the picture starts, seen from the control's corner: less than a pixel away.
+    QPointF FaceOffset() const;
     void PaintFace() const;
 
 private:
@@ -36,6 +38,9 @@ private:
     const PictureList* list_ = nullptr;
     std::int16_t index_ = 0;
 };
+
+// Has the window draw its keyboard focus, or not.
+void ShowKeyboardFocus(QWidget& window, bool isShown);
 
 // A picture to look at. Clicks go through it.
 class Picture final : public QWidget, public Placement, public PictureFace {
@@ -65,11 +70,11 @@ public:
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void ShowFocus(bool isShown);
     void PaintPointer(QPainter& painter) const;
     void PaintFocus(QPainter& painter) const;
 

@@ -52,6 +52,7 @@ frmHelp::frmHelp() : GreenDialog(u"frmHelp"_s, u"How To Play Kelvaro"_s, QSize(4
     AddLabel({u"Label2"_s, {8, 32, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, playText});
     AddLabel({u"Label3"_s, {8, 80, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, objectText});
     std::vector<Label*> rows;
+    rows.reserve(chart.size());
     for (const ChartRow& row : chart) {
         rows.push_back(AddLabel({QLatin1String(row.name), row.place, Colours::chart, TypeSize::Chart, QFont::Bold,
                                  QLatin1String(row.caption)}));

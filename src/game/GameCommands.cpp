@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "controls/Label.h"
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/SpokenNames.h"
 #include "platform/Int16.h"
 #include "platform/Process.h"
 
@@ -34,8 +32,7 @@ void Form1::StartNewGame() {
     UpdateScores();
     for (std::int16_t row = 1; row <= Board::Side; row = CheckedAdd(row, 1)) {
         for (std::int16_t column = 1; column <= Board::Side; column = CheckedAdd(column, 1)) {
-            Cell(row, column).SetPicture(imageList2_, 1);
-            Cell(row, column).setAccessibleName(SpokenNames::Cell(row, column, 0));
+            ShowCell(Cell(row, column), row, column);
         }
     }
     mnuGameRoll_->setEnabled(true);
@@ -43,8 +40,7 @@ void Form1::StartNewGame() {
     image1_->setFocus();
     imgRolled1_->hide();
     imgRolled2_->hide();
-    lblRolled_->SetCaption(QString());
-    lblRolled_->setAccessibleName(SpokenNames::Roll(0));
+    ShowSum(QString());
     currentCell_ = {};
     RepaintHoveredCell();
 }

@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "controls/Label.h"
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/SpokenNames.h"
 
 #include <QAction>
 
@@ -18,13 +16,12 @@ void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column
     mnuGameRoll_->setEnabled(true);
 
     board_.Set(row, column, pendingRoll_);
-    cell.SetPicture(imageList2_, pendingRoll_);
-    cell.setAccessibleName(SpokenNames::Cell(row, column, pendingRoll_));
+    ShowCell(cell, row, column);
     currentCell_ = {row, column};
     pendingRoll_ = 0;
-    lblRolled_->SetCaption(QString());
-    lblRolled_->setAccessibleName(SpokenNames::Roll(0));
+    ShowSum(QString());
     imgRolled1_->hide();
     imgRolled2_->hide();
+    RepaintHoveredCell();
     UpdateScores();
 }

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "controls/Label.h"
 #include "controls/Picture.h"
 #include "game/Dice.h"
 #include "mainwindow/Form1.h"
@@ -48,8 +47,7 @@ void Form1::RollDice() {
     Pause();
     imgRolled2_->show();
     Pause();
-    lblRolled_->SetCaption(RolledCaption(pendingRoll_));
-    lblRolled_->setAccessibleName(SpokenNames::Roll(pendingRoll_));
+    ShowSum(RolledCaption(pendingRoll_));
     SetPrompt(Prompts::select);
 }
 

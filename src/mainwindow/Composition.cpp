@@ -7,6 +7,7 @@
 #include "controls/LineShape.h"
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
+#include "mainwindow/SpokenNames.h"
 #include "platform/Int16.h"
 #include "scoring/BoardLines.h"
 
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int strikeThickness = 8;
 constexpr int separatorThickness = 4;
+constexpr std::int16_t emptyCellPicture = 1;
 constexpr int statusBarHeight = 17;
 constexpr QSize designClient(410, 487);
 
@@ -138,7 +140,7 @@ void Form1::ComposeCells(QWidget* table) {
         for (std::int16_t column = 1; column <= Board::Side; column = CheckedAdd(column, 1)) {
             auto* cell = Named(new PictureButton(table, cellArea), u"img%1_%2"_s.arg(row).arg(column));
             cell->Place(Nth(firstLeft, column), Nth(firstTop, row), cellSize, cellSize);
-            cell->SetPicture(imageList2_, 1);
+            cell->SetPicture(imageList2_, emptyCellPicture);
             cell->SetWouldAct([=, this] { return pendingRoll_ != 0 && board_.At(row, column) == 0; });
             connect(cell, &PictureButton::clicked, this, [=, this] { PlaceRoll(*cell, row, column); });
             cells_[static_cast<std::size_t>((row - 1) * Board::Side + column - 1)] = cell;
@@ -218,6 +220,17 @@ Form1::LineControls& Form1::Row(std::int16_t row) {
 
 Form1::LineControls& Form1::Column(std::int16_t column) {
     return lineControls_[static_cast<std::size_t>(Board::Side + CheckedIndex(column, 1, Board::Side) - 1)];
+}
+
+void Form1::ShowCell(PictureButton& cell, std::int16_t row, std::int16_t column) {
+    const RollValue value = board_.At(row, column);
+    cell.SetPicture(imageList2_, value == 0 ? emptyCellPicture : value);
+    cell.setAccessibleName(SpokenNames::Cell(row, column, value));
+}
+
+void Form1::ShowSum(const QString& caption) {
+    lblRolled_->SetCaption(caption);
+    lblRolled_->setAccessibleName(SpokenNames::Roll(pendingRoll_));
 }
 
 void Form1::RepaintHoveredCell() {

@@ -21,7 +21,6 @@ class LineShape;
 class Picture;
 class PictureButton;
 class QAction;
-class QMenu;
 
 // The game's main window: it holds all state, and every routine of the game is an operation of it.
 //
@@ -47,6 +46,7 @@ protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -99,11 +99,15 @@ private:
     PictureButton& Cell(std::int16_t row, std::int16_t column) const;
     LineControls& Row(std::int16_t row);
     LineControls& Column(std::int16_t column);
+    // What is seen and what is spoken of a cell, as the board has it, and of the sum, as the pending roll is.
+    void ShowCell(PictureButton& cell, std::int16_t row, std::int16_t column);
+    void ShowSum(const QString& caption);
     // Lets the cell under the pointer follow a change of what a click on it would do.
     void RepaintHoveredCell();
     void SetPrompt(const QString& prompt);
 
     // mainwindow/: keyboard. The grid, the roll button and the new-game button are one stop of the Tab key each.
+    void FollowFocus(); // a screen reader moves the focus without a key
     void FocusGrid();
     void FocusEmptyCell(); // the current cell, or the next empty one in reading order
 

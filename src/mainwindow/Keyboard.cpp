@@ -19,7 +19,17 @@ std::int16_t Wrapped(std::int16_t number, int direction) {
 
 } // namespace
 
+void Form1::mousePressEvent(QMouseEvent* event) {
+    ShowKeyboardFocus(*this, false);
+    QMainWindow::mousePressEvent(event);
+}
+
 void Form1::keyPressEvent(QKeyEvent* event) {
+    if ((event->modifiers() & ~Qt::KeypadModifier) != 0) {
+        QMainWindow::keyPressEvent(event);
+        return;
+    }
+    FollowFocus();
     auto [row, column] = currentCell_;
     switch (event->key()) {
     case Qt::Key_Left:
@@ -52,6 +62,7 @@ void Form1::keyPressEvent(QKeyEvent* event) {
 }
 
 bool Form1::focusNextPrevChild(bool next) {
+    FollowFocus();
     std::array<QWidget*, 3> stops{&Cell(currentCell_.row, currentCell_.column), image1_, imgNewGame_};
     if (!next) {
         std::reverse(stops.begin(), stops.end());
@@ -64,6 +75,14 @@ bool Form1::focusNextPrevChild(bool next) {
         (*target)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     }
     return true;
+}
+
+void Form1::FollowFocus() {
+    const auto focused = std::find(cells_.begin(), cells_.end(), focusWidget());
+    if (focused != cells_.end()) {
+        const auto index = focused - cells_.begin();
+        currentCell_ = {ToInt16(index / Board::Side + 1), ToInt16(index % Board::Side + 1)};
+    }
 }
 
 void Form1::FocusGrid() {
