@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
@@ -71,10 +72,12 @@ struct GameDriver {
     // Runs `act` on the dialog or message box that `open` shows, and closes what `act` left open.
     template <typename Open, typename Act> static void InDialog(Open open, Act act) {
         bool wasShown = false;
+        QElapsedTimer waiting; // a compositor without a keyboard activates nothing
+        waiting.start();
         QTimer watch;
         QObject::connect(&watch, &QTimer::timeout, [&] {
             if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-                dialog && dialog->isActiveWindow() && !wasShown) {
+                dialog && !wasShown && (dialog->isActiveWindow() || waiting.hasExpired(500))) {
                 wasShown = true;
                 act(*dialog);
                 dialog->close();

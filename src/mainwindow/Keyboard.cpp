@@ -55,7 +55,7 @@ void Form1::keyPressEvent(QKeyEvent* event) {
         return;
     }
     // From a button the first key only enters the grid.
-    if (Cell(currentCell_.row, currentCell_.column).hasFocus()) {
+    if (focusWidget() == &Cell(currentCell_.row, currentCell_.column)) {
         currentCell_ = {row, column};
     }
     FocusGrid();

@@ -34,6 +34,7 @@ void Form1::UpdateScores() {
         return;
     }
     SetPrompt(Prompts::over);
+    imgNewGame_->setFocus();
     image1_->hide();
     mnuGameRoll_->setEnabled(false);
     RecordHighScore(total);
