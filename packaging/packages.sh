@@ -47,7 +47,7 @@ install_packages() {
         quietly "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install --yes --no-install-recommends "$@"
         ;;
     dnf) quietly "${as_root[@]}" dnf install --assumeyes "$@" ;;
-    pacman) quietly "${as_root[@]}" pacman -Sy --noconfirm --needed "$@" ;;
+    pacman) quietly "${as_root[@]}" pacman -S --noconfirm --needed "$@" ;;
     zypper) quietly "${as_root[@]}" zypper --non-interactive install "$@" ;;
     brew) quietly brew install "$@" ;;
     esac

@@ -163,8 +163,9 @@ private slots:
 
         // Dialogs are read from the top, their buttons last.
         for (const auto& [entry, spoken] : std::initializer_list<std::pair<const char*, const char*>>{
-                 {"mnuHelpAbout", "Kelvaro|Version 1.0|A red disc and a die|Support: the Kelvaro issue tracker|"
-                                  "Copyright \u00a9 2026 the Kelvaro developers|OK"},
+                 {"mnuHelpAbout",
+                  "Kelvaro|Version " KELVARO_VERSION "|A red disc and a die|Support: the Kelvaro issue tracker|"
+                  "Copyright \u00a9 2026 the Kelvaro developers|OK"},
                  {"mnuGameHigh", "0  |0  |0  |0  |0  |OK|Reset Scores"}}) {
             QString heard;
             GameDriver::InDialog([&, name = entry] { game.Choose(name); },
