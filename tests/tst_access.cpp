@@ -81,6 +81,9 @@ private slots:
     }
 
     void focusIsDrawnForKeysOnly() {
+        if (!GameDriver::HasKeyboard()) {
+            QSKIP("nothing has the focus here");
+        }
         GameDriver game;
         QWidget& button = game.Find("imgNewGame");
         const auto picture = [&] { return button.grab().toImage(); };
