@@ -17,8 +17,10 @@ QString LabelFamily() {
     // These share their widths and heights; whatever else a system falls back to is wider or taller.
     static const QStringList preferred{u"MS Sans Serif"_s, u"Microsoft Sans Serif"_s, u"Arial"_s, u"Liberation Sans"_s,
                                        u"Arimo"_s};
+    // One look at the list: asking for a family by name resolves aliases, a millisecond each.
+    const QStringList installed = QFontDatabase::families();
     const auto found =
-        std::ranges::find_if(preferred, [](const QString& family) { return QFontDatabase::hasFamily(family); });
+        std::ranges::find_if(preferred, [&](const QString& family) { return installed.contains(family); });
     return found == preferred.end() ? QGuiApplication::font().family() : *found;
 }
 

@@ -20,7 +20,8 @@ Label::Label(QWidget* parent, const QFont& font, const QColor& colour, Qt::Align
     setPalette(colours);
     setAlignment(alignment | Qt::AlignTop);
     font_ = font;
-    SetLargestSize(font_.pixelSize());
+    largestSize_ = font_.pixelSize();
+    setFont(font_);
 }
 
 Label::Label(QWidget* parent) : QLabel(parent), Placement(this), font_(font()), largestSize_(0) {
@@ -34,7 +35,7 @@ Label::Label(QWidget* parent) : QLabel(parent), Placement(this), font_(font()), 
 void Label::SetCaption(const QString& caption) {
     if (caption != text()) {
         setText(caption);
-        FitText();
+        FitShownText();
     }
 }
 
@@ -57,7 +58,18 @@ void Label::SetLargestSize(int pixelSize) {
 
 void Label::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
+    FitShownText();
+}
+
+void Label::showEvent(QShowEvent* event) {
+    QLabel::showEvent(event);
     FitText();
+}
+
+void Label::FitShownText() {
+    if (isVisible()) {
+        FitText();
+    }
 }
 
 void Label::FitText() {

@@ -29,8 +29,10 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
+    void FitShownText(); // a hidden label need not load its font
     void FitText();
     bool Fits(const QFont& font) const;
 

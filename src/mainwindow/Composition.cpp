@@ -80,7 +80,7 @@ Form1::Form1(const Platform& platform)
       columnArrow_(u"arrow-down"_s, u"ico"_s) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Kelvaro"_s);
-    setWindowIcon(QIcon(u":/pictures/kelvaro.ico"_s));
+    setWindowIcon(QPixmap(u":/pictures/kelvaro.png"_s));
     Named(&imageList1_, u"ImageList1"_s)->setParent(this);
     Named(&imageList2_, u"ImageList2"_s)->setParent(this);
 
