@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # SPDX-FileCopyrightText: 2026 the Kelvaro developers
 # SPDX-License-Identifier: MIT
 #
