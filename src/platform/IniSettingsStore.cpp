@@ -19,10 +19,6 @@ namespace {
 // Far above anything the game writes: a hostile file must not fill the memory or the time.
 constexpr qint64 largestFile = 64 * 1024;
 
-QString Path(const QString& section, const QString& key) {
-    return section + u'/' + key;
-}
-
 // The file's texts, none when there is no such file; nothing when it cannot be read.
 std::optional<IniMap> ReadFile(const QString& fileName) {
     std::error_code error;
@@ -51,11 +47,11 @@ void IniSettingsStore::Refresh() {
 }
 
 std::optional<QString> IniSettingsStore::Read(const QString& section, const QString& key, const QString& fallback) {
-    return texts_ ? std::optional(texts_->value(Path(section, key), fallback)) : std::nullopt;
+    return texts_ ? std::optional(texts_->value({section, key}, fallback)) : std::nullopt;
 }
 
 void IniSettingsStore::Write(const QString& section, const QString& key, const QString& text) {
-    staged_.insert(Path(section, key), text);
+    staged_.insert({section, key}, text);
 }
 
 void IniSettingsStore::Commit() {

@@ -87,32 +87,30 @@ IniMap ParseIni(const QString& text) {
     for (const QStringView rawLine : QStringView(text).split(u'\n')) {
         const QStringView line = rawLine.trimmed();
         if (line.startsWith(u'[') && line.endsWith(u']')) {
-            const QString name = line.sliced(1, line.size() - 2).toString();
-            section = name.isEmpty() ? name : name + u'/';
+            section = line.sliced(1, line.size() - 2).toString();
             continue;
         }
         const qsizetype equals = line.indexOf(u'=');
         if (equals < 0 || line.startsWith(u';') || line.startsWith(u'#')) {
             continue;
         }
-        const QStringView key = line.first(equals).trimmed();
+        const QString key = line.first(equals).trimmed().toString();
         const QStringView value = line.sliced(equals + 1).trimmed();
-        map.insert(section + key.toString(), Unquote(value).value_or(value.toString()));
+        map.insert({section, key}, Unquote(value).value_or(value.toString()));
     }
     return map;
 }
 
 QString ComposeIni(const IniMap& map) {
     QString text;
-    QString section;
+    std::optional<QString> openSection;
     for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
-        const qsizetype slash = entry.key().indexOf(u'/');
-        const QString entrySection = entry.key().first(qMax<qsizetype>(slash, 0));
-        if (entrySection != section) {
-            section = entrySection;
+        const auto& [section, key] = entry.key();
+        if (openSection != section) {
+            openSection = section;
             text += u'[' + section + u"]\n"_s;
         }
-        text += entry.key().sliced(slash + 1) + u'=' + ComposeValue(entry.value()) + u'\n';
+        text += key + u'=' + ComposeValue(entry.value()) + u'\n';
     }
     return text;
 }

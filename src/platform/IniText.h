@@ -6,8 +6,10 @@
 #include <QMap>
 #include <QString>
 
-// Texts by "section/key".
-using IniMap = QMap<QString, QString>;
+#include <utility>
+
+// Texts by section and key.
+using IniMap = QMap<std::pair<QString, QString>, QString>;
 
 // The text of an INI file as a map and back. Sections and keys are taken as they
 // stand.
