@@ -62,9 +62,10 @@ void IniSettingsStore::Commit() {
     }
     texts->insert(writes);
     QDir().mkpath(QFileInfo(fileName_).path());
+    const QByteArray bytes = ComposeIni(*texts).toUtf8();
     QSaveFile file(fileName_);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(ComposeIni(*texts).toUtf8());
+    // Flushed by hand: on a full disk the commit alone would put a file that lacks its last bytes in the old one's place.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush()) {
         file.commit();
     }
 }
