@@ -10,6 +10,8 @@
 
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Expect(bool holds) {
@@ -27,10 +29,10 @@ void CheckStore(const QString& text) {
 // Blanks mean nothing, and a sign in front only turns the number round.
 void CheckScore(const QString& text) {
     const auto score = ReadScore(text);
-    Expect(ReadScore(u"\t " + text + u'\n') == score);
+    Expect(ReadScore(u"\t "_s + text + u'\n') == score);
     const bool startsWithDigit = !text.isEmpty() && text.front() >= u'0' && text.front() <= u'9';
     if (score && startsWithDigit) {
-        Expect(*score >= 0 && ReadScore(u'-' + text) == -*score && ReadScore(u"+0" + text) == score);
+        Expect(*score >= 0 && ReadScore(u'-' + text) == -*score && ReadScore(u"+0"_s + text) == score);
     }
 }
 

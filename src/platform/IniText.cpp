@@ -74,7 +74,8 @@ QString Quote(const QString& text) {
 }
 
 QString ComposeValue(const QString& text) {
-    const bool isPlain = text == text.trimmed() && !text.startsWith(u'"') && text.isValidUtf16()
+    // Behind a key that begins with a bracket, a bracket at the end would make a section of the line.
+    const bool isPlain = text == text.trimmed() && !text.startsWith(u'"') && !text.endsWith(u']') && text.isValidUtf16()
                          && std::ranges::none_of(text, IsControl);
     return isPlain ? text : Quote(text);
 }

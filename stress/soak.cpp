@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+// Round after round and dialog after dialog in one process: memory, handles and the event queue have to stay as they
+// are. KELVARO_ROUNDS and KELVARO_OPENINGS say how many; 2000 and 1000 without them.
+
+#include "GameDriver.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int warmUp = 100;
+constexpr qint64 allowedGrowth = 1024;
+
+qint64 ResidentKilobytes() {
+    QFile file("/proc/self/statm");
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ')[1].toLongLong() * sysconf(_SC_PAGESIZE) / 1024
+                                          : 0;
+}
+
+qsizetype OpenHandles() {
+    return QDir("/proc/self/fd").entryList(QDir::Files | QDir::System).size();
+}
+
+struct EventCounter final : QObject {
+    int events = 0;
+    bool eventFilter(QObject*, QEvent*) override {
+        ++events;
+        return false;
+    }
+};
+
+// How many events are left when all that were queued, and what they queued in turn, have been dispatched.
+int EventsThatStay() {
+    for (int pass = 0; pass < 5; ++pass) {
+        QCoreApplication::processEvents();
+    }
+    EventCounter counter;
+    qApp->installEventFilter(&counter);
+    QCoreApplication::processEvents();
+    return counter.events;
+}
+
+int Times(const char* variable, const char* otherwise) {
+    return qEnvironmentVariable(variable, otherwise).toInt();
+}
+
+template <typename Step> void Repeat(const char* what, int times, Step step) {
+    qint64 memory = 0;
+    qsizetype handles = 0;
+    for (int done = 0; done < warmUp + times; ++done) {
+        if (done == warmUp) {
+            memory = ResidentKilobytes();
+            handles = OpenHandles();
+        }
+        step();
+    }
+    const qint64 growth = ResidentKilobytes() - memory;
+    qInfo("%s, %d times: %lld kB after the first %d, %+lld kB since; %lld handles, %+lld since", what, times, memory,
+          warmUp, growth, static_cast<long long>(handles), static_cast<long long>(OpenHandles() - handles));
+    QVERIFY(memory > 0 && growth < allowedGrowth);
+    QCOMPARE(OpenHandles(), handles);
+    QCOMPARE(EventsThatStay(), 0);
+}
+
+} // namespace
+
+class soak : public QObject {
+    Q_OBJECT
+
+private slots:
+    void rounds() {
+        GameDriver game;
+        Repeat("round", Times("KELVARO_ROUNDS", "2000"), [&] {
+            game.platform.store.writes.clear();
+            game.Fill("2 4 6 8 10 / 4 6 8 10 12 / 6 8 10 12 3 / 8 10 12 3 5 / 10 12 3 5 7");
+            QVERIFY(game.form.GameBoard().IsFull());
+            game.Choose("mnuNewGame");
+            QCoreApplication::processEvents();
+        });
+    }
+
+    void dialogs_data() {
+        QTest::addColumn<QString>("entry");
+        for (const char* entry : {"mnuGameHigh", "mnuHelpHow", "mnuHelpAbout", "mnuNewGame", "mnuGameExit"}) {
+            QTest::newRow(entry) << entry;
+        }
+    }
+    void dialogs() {
+        QFETCH(QString, entry);
+        GameDriver game;
+        Repeat(qPrintable(entry), Times("KELVARO_OPENINGS", "1000"), [&] {
+            GameDriver::InDialog([&] { game.Choose(entry); }, [](QDialog& dialog) { dialog.grab(); });
+            QCoreApplication::processEvents();
+        });
+    }
+};
+
+QTEST_MAIN(soak)
+#include "soak.moc"
