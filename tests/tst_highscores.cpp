@@ -197,6 +197,17 @@ private slots:
         QTEST(TableText(Reloaded(folder.filePath("KVR.ini"))), "table");
     }
 
+    // Whatever another program has left in the file comes back as it was.
+    void foreignEntriesSurvive() {
+        const QString corpus = QFINDTESTDATA("corpus");
+        for (const QFileInfo& entry : QDir(corpus).entryInfoList(QDir::Files)) {
+            QFile file(entry.filePath());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const IniMap map = ParseIni(QString::fromUtf8(file.readAll()));
+            QVERIFY2(ParseIni(ComposeIni(map)) == map, qPrintable(entry.fileName()));
+        }
+    }
+
     // What cannot be written is skipped: it neither shows later nor overwrites what another copy has written since.
     void failedWritesAreForgotten() {
         const QTemporaryDir folder;
