@@ -12,6 +12,11 @@
 #include <filesystem>
 #include <utility>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -31,6 +36,18 @@ std::optional<IniMap> ReadFile(const QString& fileName) {
         return std::nullopt;
     }
     return ParseIni(QString::fromUtf8(file.read(largestFile)));
+}
+
+// A file that has taken another's name survives a power cut only once its folder is on disk too.
+void SyncFolderOf(const QString& fileName) {
+#ifdef Q_OS_UNIX
+    const QByteArray folder = QFile::encodeName(QFileInfo(fileName).canonicalPath());
+    const int handle = open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle >= 0) {
+        fsync(handle);
+        close(handle);
+    }
+#endif
 }
 
 } // namespace
@@ -64,8 +81,8 @@ void IniSettingsStore::Commit() {
     QDir().mkpath(QFileInfo(fileName_).path());
     const QByteArray bytes = ComposeIni(*texts).toUtf8();
     QSaveFile file(fileName_);
-    // Flushed by hand: on a full disk the commit alone would put a file that lacks its last bytes in the old one's place.
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush()) {
-        file.commit();
+    // Flushed first: on a full disk the commit alone would put a file without its last bytes in the old one's place.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit()) {
+        SyncFolderOf(fileName_);
     }
 }
