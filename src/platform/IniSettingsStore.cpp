@@ -9,6 +9,7 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#include <cerrno>
 #include <filesystem>
 #include <utility>
 
@@ -21,8 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Far above anything the game writes: a hostile file must not fill the memory or the time.
-constexpr qint64 largestFile = 64 * 1024;
+// In bytes, far above anything the game writes: a hostile file must not fill the memory or the time.
+constexpr qint64 largestFile = 1024 * 1024;
 
 // The file's texts, none when there is no such file; nothing when it cannot be read.
 std::optional<IniMap> ReadFile(const QString& fileName) {
@@ -35,14 +36,26 @@ std::optional<IniMap> ReadFile(const QString& fileName) {
     if (kind != std::filesystem::file_type::regular || !file.open(QIODevice::ReadOnly)) {
         return std::nullopt;
     }
-    return ParseIni(QString::fromUtf8(file.read(largestFile)));
+    const QByteArray bytes = file.read(largestFile + 1);
+    if (file.error() != QFileDevice::NoError || bytes.size() > largestFile) {
+        return std::nullopt;
+    }
+    return ParseIni(QString::fromUtf8(bytes));
+}
+
+// Whether what was written is on disk. Some failures, a full disk among them, are told only here.
+bool Sync(QSaveFile& file) {
+#ifdef Q_OS_UNIX
+    return fsync(file.handle()) == 0 || errno == EINVAL; // a file system that cannot sync says so
+#else
+    return true;
+#endif
 }
 
 // A file that has taken another's name survives a power cut only once its folder is on disk too.
-void SyncFolderOf(const QString& fileName) {
+void SyncFolder(const QString& folder) {
 #ifdef Q_OS_UNIX
-    const QByteArray folder = QFile::encodeName(QFileInfo(fileName).canonicalPath());
-    const int handle = open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle >= 0) {
         fsync(handle);
         close(handle);
@@ -80,9 +93,15 @@ void IniSettingsStore::Commit() {
     texts->insert(writes);
     QDir().mkpath(QFileInfo(fileName_).path());
     const QByteArray bytes = ComposeIni(*texts).toUtf8();
+    if (bytes.size() > largestFile) {
+        return;
+    }
     QSaveFile file(fileName_);
-    // Flushed first: on a full disk the commit alone would put a file without its last bytes in the old one's place.
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit()) {
-        SyncFolderOf(fileName_);
+    // Flushed and synced first: the commit alone would put a file that lacks bytes in the old one's place.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && Sync(file)
+        && file.commit()) {
+        const QFileInfo folder(QFileInfo(fileName_).canonicalPath());
+        SyncFolder(folder.filePath());
+        SyncFolder(folder.path()); // the folder may be new too
     }
 }

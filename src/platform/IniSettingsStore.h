@@ -11,8 +11,9 @@
 #include <optional>
 
 // The settings store in one INI file, which a commit replaces in one step. It is not locked: each commit writes what it
-// was given into the file as it finds it, and of two copies of the game that end a round at once the later one stands.
-// A thing that is no plain file (a directory, a pipe) under the file's name is never opened.
+// was given into the file as it finds it, so of two copies of the game the one that ends a round later stands.
+// A thing that is no plain file (a directory, a pipe) under the file's name is never opened, and a file that cannot be
+// read, or is larger than a mebibyte, never replaced.
 class IniSettingsStore final : public SettingsStore {
 public:
     // Where this user's scores are: Kelvaro/KVR.ini in the configuration directory of the desktop.
