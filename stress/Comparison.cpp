@@ -7,6 +7,7 @@
 #include "controls/Picture.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QFile>
 #include <QStatusBar>
 #include <QTest>
@@ -15,6 +16,7 @@ void WindowComparison::Compare(const RulesModel& model) {
     CompareCells(model);
     CompareLines(model);
     CompareRoll(model);
+    QVERIFY(form_.focusWidget() != nullptr);
     QCOMPARE(form_.focusWidget()->objectName(), model.focus);
     for (std::int16_t rank = 1; rank <= 5; ++rank) {
         const auto& [score, text] = model.table[static_cast<std::size_t>(rank - 1)];
@@ -60,23 +62,31 @@ void WindowComparison::CompareRoll(const RulesModel& model) {
     QCOMPARE(Control<Label>("lblRolled").text(), model.sum);
 }
 
-QByteArrayList StoreLines(const RulesModel::Table& table) {
-    QByteArrayList lines;
+void CompareHighScores(const QDialog& dialog, const RulesModel& model) {
+    QCOMPARE(dialog.objectName(), "frmHighScores");
+    for (int at = 0; at < 5; ++at) {
+        const auto& [score, text] = model.table[static_cast<std::size_t>(at)];
+        QCOMPARE(dialog.findChild<QLabel*>(QString("lblHighScore(%1)").arg(at))->text(),
+                 QString("%1  %2").arg(score).arg(text));
+    }
+}
+
+QByteArray StoreText(const RulesModel::Table& table) {
+    QByteArray scores;
+    QByteArray texts;
     for (int at = 0; at < 5; ++at) {
         const auto& [score, text] = table[static_cast<std::size_t>(at)];
-        lines << "Score" + QByteArray::number(at + 1) + '=' + QByteArray::number(score)
-              << "User" + QByteArray::number(at + 1) + '=' + text.toUtf8();
+        scores += "Score" + QByteArray::number(at + 1) + '=' + QByteArray::number(score) + '\n';
+        texts += "User" + QByteArray::number(at + 1) + '=' + text.toUtf8() + '\n';
     }
-    return lines;
+    return "[HighScores]\n" + scores + texts;
 }
 
 void CompareStore(const QString& fileName, const RulesModel& model) {
     QFile file(fileName);
-    if (file.open(QIODevice::ReadOnly)) {
-        const QByteArrayList found = file.readAll().split('\n');
-        for (const QByteArray& line : StoreLines(model.stored)) {
-            QVERIFY2(found.contains(line), line.constData());
-        }
+    if (file.exists()) {
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), StoreText(model.stored));
     } else {
         QVERIFY(model.stored == RulesModel::Table());
     }

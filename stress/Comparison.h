@@ -6,8 +6,10 @@
 #include "RulesModel.h"
 #include "mainwindow/Form1.h"
 
-#include <QByteArrayList>
+#include <QByteArray>
 #include <QHash>
+
+class QDialog;
 
 // Holds a window against the model. A difference fails the running test.
 class WindowComparison {
@@ -23,7 +25,7 @@ public:
         if (found == nullptr) {
             found = form_.findChild<QObject*>(name);
         }
-        return *dynamic_cast<Type*>(found);
+        return dynamic_cast<Type&>(*found);
     }
 
 private:
@@ -35,8 +37,11 @@ private:
     QHash<QString, QObject*> controls_;
 };
 
-// The lines of a stored table.
-QByteArrayList StoreLines(const RulesModel::Table& table);
+// Holds the high-score dialog against the model's table in memory.
+void CompareHighScores(const QDialog& dialog, const RulesModel& model);
+
+// A stored table as the file's text.
+QByteArray StoreText(const RulesModel::Table& table);
 
 // Holds the store's file against the model.
 void CompareStore(const QString& fileName, const RulesModel& model);

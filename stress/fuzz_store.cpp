@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
@@ -38,8 +39,8 @@ void CheckScore(const QString& text) {
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const char* bytes, std::size_t size) {
-    const QString text = QString::fromUtf8(bytes, static_cast<qsizetype>(size));
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    const QString text = QString::fromUtf8(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
     CheckStore(text);
     CheckScore(text);
     return 0;

@@ -74,6 +74,7 @@ const Kind kinds[] = {
     {"a huge text", [] { return WithValue(QByteArray(Below(70'000), static_cast<char>(' ' + Below(90)))); }},
     {"deep escapes", [] { return WithValue('"' + QByteArray("\\\\x\\").repeated(Below(500)) + '"'); }},
     {"a BOM and CRLF", [] { return "\xef\xbb\xbf" + Mutated().replace("\n", "\r\n"); }},
+    {"a swelling foreign text", [] { return "[A]\nk=" + QByteArray(Below(150'000), '\x01') + '\n' + GoodFile(); }},
     {"many lines", [] { return QByteArray("Score1=1\n[x]\n").repeated(Below(3000)) + GoodFile(); }},
 };
 
@@ -99,6 +100,7 @@ private slots:
             table.Load(store);
             frmHighScores dialog(table, store);
             QVERIFY2(!dialog.grab().isNull(), kind.name);
+            table.Set(1, static_cast<std::int16_t>(made % 1000), "saved");
             table.Save(store);
 
             HighScoreTable again;
