@@ -65,7 +65,7 @@ QString Quote(const QString& text) {
             quoted += u'\\';
             quoted += c;
         } else if (IsControl(c) || c.isSurrogate()) {
-            quoted += u"\\x%1"_s.arg(c.unicode(), 4, 16, QLatin1Char('0'));
+            quoted += u"\\x%1"_s.arg(uint{c.unicode()}, 4, 16, QLatin1Char('0'));
         } else {
             quoted += c;
         }
