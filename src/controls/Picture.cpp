@@ -18,6 +18,13 @@ constexpr qreal hoverEdge = 1.6;
 constexpr qreal focusEdge = 2;
 constexpr qreal focusOutset = 2.5; // how far the focus reaches over the hot area
 
+// A property of the window; Qt's own mark for this goes out with every change of the focus that no key asked for.
+constexpr char showsFocus[] = "showsKeyboardFocus";
+
+bool ShowsKeyboardFocus(const QWidget& window) {
+    return window.property(showsFocus).toBool();
+}
+
 bool IsModifier(int key) {
     return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr
            || key == Qt::Key_Meta;
@@ -61,8 +68,8 @@ void PictureFace::PaintFace() const {
 }
 
 void ShowKeyboardFocus(QWidget& window, bool isShown) {
-    if (window.testAttribute(Qt::WA_KeyboardFocusChange) != isShown) {
-        window.setAttribute(Qt::WA_KeyboardFocusChange, isShown);
+    if (ShowsKeyboardFocus(window) != isShown) {
+        window.setProperty(showsFocus, isShown);
         if (QWidget* focused = window.focusWidget()) {
             focused->update();
         }
@@ -119,7 +126,7 @@ void PictureButton::paintEvent(QPaintEvent*) {
     if ((underMouse() || isDown()) && wouldAct_()) {
         PaintPointer(painter);
     }
-    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+    if (hasFocus() && ShowsKeyboardFocus(*window())) {
         PaintFocus(painter);
     }
 }
