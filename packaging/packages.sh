@@ -15,12 +15,13 @@ is_installed() {
 # attempt TITLE COMMAND...: says the title and a dot for every few lines that the command prints, so that something moves;
 # the lines are in $log. Gives the command's status.
 attempt() {
+    local status=0
     printf '%s ' "$1"
     "${@:2}" </dev/null 2>&1 | tee "$log" | while read -r _ && read -r _ && read -r _ && read -r _ && read -r _; do
         printf .
-    done
+    done || status=$?
     echo
-    return "${PIPESTATUS[0]}"
+    return "$status"
 }
 
 # step TITLE COMMAND...: the same, and ends the script when the command fails, with what it printed.
@@ -56,9 +57,9 @@ build() {
     if ! command -v cmake >/dev/null || ! configure "$1"; then
         need g++ cmake ninja-build qt6-base-dev
         local version
-        version=$(cmake --version | sed -n '1s/.* //p')
+        version=$(cmake --version 2>/dev/null | sed -n '1s/.* //p') || true
         [ "$(printf '%s\n' "$oldest_cmake" "$version" | sort --version-sort | head -n 1)" = "$oldest_cmake" ] ||
-            { echo "Kelvaro needs CMake $oldest_cmake or newer; this is CMake ${version:-0}." >&2; exit 1; }
+            { echo "Kelvaro needs CMake $oldest_cmake or newer; here is ${version:-none}." >&2; exit 1; }
         configure "$1" --fresh || { grep -E '^ *Kelvaro needs' "$log" || cat "$log"; exit 1; } >&2
     fi
     step "Building ($1)" cmake --build --preset "$1"
