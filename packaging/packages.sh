@@ -12,15 +12,15 @@ is_installed() {
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-# attempt TITLE COMMAND...: says the title and a dot for every few lines that the command prints, so that something moves;
-# the lines are in $log. Gives the command's status.
+# attempt TITLE COMMAND...: says the title and a dot for every few lines that the command prints, so that something moves,
+# and the seconds; the lines are in $log. Gives the command's status.
 attempt() {
-    local status=0
+    local status=0 began=$SECONDS
     printf '%s ' "$1"
     "${@:2}" </dev/null 2>&1 | tee "$log" | while read -r _ && read -r _ && read -r _ && read -r _ && read -r _; do
         printf .
     done || status=$?
-    echo
+    echo " $((SECONDS - began)) s"
     return "$status"
 }
 
