@@ -3,11 +3,7 @@
 
 #include "controls/AccessibleTable.h"
 #include "mainwindow/Form1.h"
-#include "platform/Clock.h"
-#include "platform/EventPump.h"
-#include "platform/IniSettingsStore.h"
-#include "platform/Process.h"
-#include "platform/UniformGenerator.h"
+#include "platform/Platform.h"
 
 #include <QApplication>
 
@@ -36,12 +32,7 @@ int main(int, char* argv[]) {
 
     QGuiApplication::setDesktopFileName(u"io.github.kelvaro.Kelvaro"_s);
     InstallAccessibleTables();
-    SystemClock clock;
-    EntropyGenerator generator;
-    QtEventPump pump;
-    IniSettingsStore store;
-    SystemProcess process;
-    Form1 window({clock, generator, pump, store, process});
+    Form1 window(SystemPlatform());
     window.show();
     return QApplication::exec();
 }

@@ -3,40 +3,26 @@
 
 #pragma once
 
-#include "platform/Clock.h"
-#include "platform/EventPump.h"
 #include "platform/Platform.h"
-#include "platform/Process.h"
-#include "platform/SettingsStore.h"
-#include "platform/UniformGenerator.h"
 
-#include <QMap>
 #include <QStringList>
+#include <QTemporaryDir>
 
 #include <deque>
 #include <functional>
 #include <map>
-#include <optional>
 
 // Stands still at 2026/1/5 9:05:30 until a test says otherwise.
-struct FakeClock final : Clock {
+struct FakeClock {
     int year = 2026, month = 1, day = 5, hour = 9, minute = 5, second = 30;
-
-    int Year() const override { return year; }
-    int Month() const override { return month; }
-    int Day() const override { return day; }
-    int Hour() const override { return hour; }
-    int Minute() const override { return minute; }
-    int Second() const override { return second; }
 };
 
 // Throws the dice that the test names, then ones.
-struct ScriptedGenerator final : UniformGenerator {
+struct ScriptedGenerator {
     std::deque<int> dice;
     int lastSeed = -1;
 
-    void Reseed(int seconds) override { lastSeed = seconds; }
-    double Next() override {
+    double Next() {
         const int die = dice.empty() ? 1 : dice.front();
         if (!dice.empty()) {
             dice.pop_front();
@@ -46,13 +32,13 @@ struct ScriptedGenerator final : UniformGenerator {
 };
 
 // Counts its passes and runs a test's action at a given one; dispatches nothing.
-struct ScriptedPump final : EventPump {
+struct ScriptedPump {
     static constexpr int passesPerPause = 250'000;
 
     int passes = 0;
     std::map<int, std::function<void()>> actions;
 
-    void Pass() override {
+    void Pass() {
         ++passes;
         if (const auto action = actions.find(passes); action != actions.end()) {
             const auto run = action->second;
@@ -62,36 +48,42 @@ struct ScriptedPump final : EventPump {
     }
 };
 
-// Keeps texts in memory and notes every write; reading or writing can be made to fail.
-struct FakeStore final : SettingsStore {
-    QMap<QString, QString> texts;
-    QStringList writes;
-    int commits = 0;
-    bool isReadable = true;
-
-    void Refresh() override {}
-    std::optional<QString> Read(const QString& section, const QString& key, const QString& fallback) override {
-        return isReadable ? std::optional(texts.value(section + u'/' + key, fallback)) : std::nullopt;
-    }
-    void Write(const QString& section, const QString& key, const QString& text) override {
-        texts[section + u'/' + key] = text;
-        writes << key + u'=' + text;
-    }
-    void Commit() override { ++commits; }
-};
-
-struct FakeProcess final : Process {
+struct FakeProcess {
     bool hasEnded = false;
-
-    void End() override { hasEnded = true; }
 };
 
+// Its settings are a file in a folder of its own.
 struct FakePlatform {
     FakeClock clock;
     ScriptedGenerator generator;
     ScriptedPump pump;
-    FakeStore store;
     FakeProcess process;
+    QTemporaryDir folder;
+    SettingsStore store{folder.filePath("KVR.ini")};
 
-    operator Platform() { return {clock, generator, pump, store, process}; }
+    // What the store holds, as "key=text".
+    QString StoreText() const {
+        const SettingsMap texts = store.Read().value();
+        QStringList entries;
+        for (auto entry = texts.begin(); entry != texts.end(); ++entry) {
+            entries << entry.key() + '=' + entry.value();
+        }
+        return entries.join(' ');
+    }
+
+    operator Platform() {
+        return {
+            .year = [this] { return clock.year; },
+            .month = [this] { return clock.month; },
+            .day = [this] { return clock.day; },
+            .hour = [this] { return clock.hour; },
+            .minute = [this] { return clock.minute; },
+            .second = [this] { return clock.second; },
+            .reseed = [this](int seconds) { generator.lastSeed = seconds; },
+            .nextUniform = [this] { return generator.Next(); },
+            .pumpEvents = [this] { pump.Pass(); },
+            .endProcess = [this] { process.hasEnded = true; },
+            .store = store,
+        };
+    }
 };

@@ -105,9 +105,9 @@ private slots:
             QCOMPARE(Focused(game), "Image1");
         }
         QVERIFY(game.CanRoll());
-        QCOMPARE(game.platform.store.commits, 0);
+        QCOMPARE(game.platform.StoreText(), "");
         const auto checkAndClose = [&](QDialog& dialog) {
-            QCOMPARE(game.platform.store.commits, 1);
+            QVERIFY(game.platform.StoreText().contains("User1=2026/1/5 9:05"));
             QCOMPARE(game.Prompt(), "Game Over!");
             const QString first = dialog.findChild<QLabel*>("lblHighScore(0)")->text();
             QCOMPARE(first, game.Caption("lblTotal") + "  2026/1/5 9:05");

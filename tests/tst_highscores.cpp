@@ -5,7 +5,7 @@
 #include "highscores/DateTimeText.h"
 #include "highscores/HighScoreTable.h"
 #include "highscores/ScoreText.h"
-#include "platform/IniSettingsStore.h"
+#include "platform/IniText.h"
 #include "platform/Int16.h"
 
 #include <QDir>
@@ -39,13 +39,13 @@ HighScoreTable SomeTable() {
 }
 
 HighScoreTable Reloaded(const QString& fileName) {
-    IniSettingsStore store(fileName);
+    SettingsStore store(fileName);
     HighScoreTable table = SomeTable();
     table.Load(store);
     return table;
 }
 
-const QString resetWrites = "Score1=0 Score2=0 Score3=0 Score4=0 Score5=0 User1= User2= User3= User4= User5=";
+const QString resetStore = "Score1=0 Score2=0 Score3=0 Score4=0 Score5=0 User1= User2= User3= User4= User5=";
 
 void WriteFile(const QString& name, const QByteArray& bytes) {
     QFile file(name);
@@ -76,13 +76,13 @@ private slots:
     }
 
     void dateTimeTexts() {
-        FakeClock clock;
-        QCOMPARE(DateTimeText(clock), "2026/1/5 9:05");
-        clock.month = 12;
-        clock.day = 31;
-        clock.hour = 0;
-        clock.minute = 59;
-        QCOMPARE(DateTimeText(clock), "2026/12/31 0:59");
+        FakePlatform platform;
+        QCOMPARE(DateTimeText(platform), "2026/1/5 9:05");
+        platform.clock.month = 12;
+        platform.clock.day = 31;
+        platform.clock.hour = 0;
+        platform.clock.minute = 59;
+        QCOMPARE(DateTimeText(platform), "2026/12/31 0:59");
         QCOMPARE(TwoDigits(-5), "0-5");
     }
 
@@ -105,14 +105,12 @@ private slots:
     }
 
     void loadingKeepsWhatCannotBeRead() {
-        FakeStore store;
-        store.texts = {{"HighScores/Score1", "12.5"}, {"HighScores/Score2", "40000"}, {"HighScores/User2", "x"}};
+        FakePlatform platform;
+        platform.store.Write({{"Score1", "12.5"}, {"Score2", "40000"}, {"User2", "x"}});
         HighScoreTable table = SomeTable();
-        table.Load(store);
+        table.Load(platform.store);
         QCOMPARE(TableText(table), "12  |40  x|0  |0  |0  ");
-        store.isReadable = false;
-        store.texts.clear();
-        table.Load(store);
+        table.Load(SettingsStore(platform.folder.path()));
         QCOMPARE(TableText(table), "12  |40  x|0  |0  |0  ");
     }
 
@@ -122,13 +120,13 @@ private slots:
         game.Fill("2 4 6 8 10 / 4 6 8 10 12 / 6 8 10 12 3 / 8 10 12 3 5 / 10 12 3 5 7");
         QCOMPARE(game.Caption("lblTotal"), "0");
         QCOMPARE(game.Prompt(), "Game Over!");
-        QCOMPARE(game.platform.store.writes.join(' '), resetWrites);
+        QCOMPARE(game.platform.StoreText(), resetStore);
     }
 
     void resetIsUndoneByTheNextRound() {
         GameDriver game;
-        FakeStore& store = game.platform.store;
-        store.texts = {{"HighScores/Score1", "400"}, {"HighScores/User1", "<b>a</b>, \"b\"; @c"}};
+        const SettingsStore& store = game.platform.store;
+        store.Write({{"Score1", "400"}, {"User1", "<b>a</b>, \"b\"; @c"}});
         const auto caption = [](QDialog& dialog) { return dialog.findChild<QLabel*>("lblHighScore(0)")->text(); };
         const auto reset = [&](QDialog& dialog) {
             QCOMPARE(caption(dialog), "400  <b>a</b>, \"b\"; @c");
@@ -138,7 +136,7 @@ private slots:
         };
         const auto open = [&] { game.Choose("mnuGameHigh"); };
         GameDriver::InDialog(open, reset);
-        QCOMPARE(store.writes.join(' '), resetWrites);
+        QCOMPARE(game.platform.StoreText(), resetStore);
 
         game.Fill("7 7 7 7 7 / 4 6 8 10 12 / 6 8 10 12 3 / 8 10 12 3 5");
         game.Fill("- / - / - / - / 10 12 3 5");
@@ -148,7 +146,7 @@ private slots:
                                           game.Caption("lblTotal") + "  2026/1/5 9:05");
                                  dialog.close();
                              });
-        QCOMPARE(store.texts["HighScores/Score1"], "400");
+        QCOMPARE(store.Read()->value("Score1"), "400");
 
         GameDriver::InDialog(open, reset);
         GameDriver::InDialog(open, [&](QDialog& dialog) {
@@ -168,7 +166,7 @@ private slots:
               QString("\""), QString(10'000, 'x'), QString(QChar(0xd83d)) + QChar(0)}) {
             HighScoreTable table;
             table.Set(2, 4, text);
-            IniSettingsStore store(name);
+            SettingsStore store(name);
             table.Save(store);
             QCOMPARE(Reloaded(name).Text(2), text);
         }
@@ -214,21 +212,20 @@ private slots:
         const QTemporaryDir folder;
         const QString name = folder.filePath("KVR.ini");
         QVERIFY(QDir().mkdir(name));
-        IniSettingsStore store(name);
+        SettingsStore store(name);
         SomeTable().Save(store);
         QVERIFY(QDir().rmdir(name));
         HighScoreTable table = SomeTable();
         table.Load(store);
         QCOMPARE(TableText(table), "0  |0  |0  |0  |0  ");
-        store.Commit();
-        QVERIFY(!QFile::exists(name) || QFile(name).size() == 0);
+        QVERIFY(!QFile::exists(name));
     }
 
     // As on a full disk: the old file stays, and a later write succeeds.
     void unfinishedWritesLeaveTheOldFile() {
         const QTemporaryDir folder;
         const QString name = folder.filePath("KVR.ini");
-        IniSettingsStore store(name);
+        SettingsStore store(name);
         SomeTable().Save(store);
         signal(SIGXFSZ, SIG_IGN);
         rlimit before{};
@@ -251,7 +248,7 @@ private slots:
         const QString large = folder.filePath("large");
         WriteFile(large, QByteArray(2'000'000, ';') + "\n[HighScores]\nScore1=1\n");
         for (const QString& name : {folder.path(), pipe, QString("/proc/self/mem"), large}) {
-            IniSettingsStore store(name);
+            SettingsStore store(name);
             SomeTable().Save(store);
             QCOMPARE(TableText(Reloaded(name)), "50  a|40  b|30  c|20  d|10  e");
         }

@@ -4,15 +4,14 @@
 #include "game/Dice.h"
 
 #include "platform/Int16.h"
-#include "platform/UniformGenerator.h"
 
 #include <cmath>
 
 using namespace Qt::StringLiterals;
 
-std::int16_t RollDie(UniformGenerator& generator) {
+std::int16_t RollDie(double uniform) {
     constexpr double faces = 6.0;
-    return ToInt16(std::llround(std::floor(generator.Next() * faces) + 1.0));
+    return ToInt16(std::llround(std::floor(uniform * faces) + 1.0));
 }
 
 QString RolledCaption(RollValue sum) {

@@ -9,10 +9,8 @@
 
 #include <cstdint>
 
-class UniformGenerator;
-
-// One throw of a six-sided die, 1..6, from the generator's next number.
-std::int16_t RollDie(UniformGenerator& generator);
+// The throw of a six-sided die, 1..6, that a uniform number in [0, 1) stands for.
+std::int16_t RollDie(double uniform);
 
 // What the window shows beside the dice: "= 7" for a sum of 7.
 QString RolledCaption(RollValue sum);

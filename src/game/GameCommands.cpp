@@ -4,7 +4,6 @@
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
 #include "platform/Int16.h"
-#include "platform/Process.h"
 
 #include <QAction>
 #include <QMessageBox>
@@ -57,6 +56,6 @@ void Form1::mnuNewGame_Click() {
 
 void Form1::mnuGameExit_Click() {
     if (Confirm(this, u"Are you sure you want to quit?"_s)) {
-        platform_.process.End();
+        platform_.endProcess();
     }
 }

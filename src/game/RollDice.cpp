@@ -6,10 +6,7 @@
 #include "mainwindow/Form1.h"
 #include "mainwindow/Prompts.h"
 #include "mainwindow/SpokenNames.h"
-#include "platform/Clock.h"
-#include "platform/EventPump.h"
 #include "platform/Int16.h"
-#include "platform/UniformGenerator.h"
 
 #include <QAction>
 
@@ -31,9 +28,9 @@ void Form1::RollDice() {
     image1_->hide();
     mnuGameRoll_->setEnabled(false);
 
-    platform_.generator.Reseed(platform_.clock.Second());
-    const std::int16_t firstDie = RollDie(platform_.generator);
-    const std::int16_t secondDie = RollDie(platform_.generator);
+    platform_.reseed(platform_.second());
+    const std::int16_t firstDie = RollDie(platform_.nextUniform());
+    const std::int16_t secondDie = RollDie(platform_.nextUniform());
     pendingRoll_ = CheckedAdd(secondDie, firstDie);
     imgRolled1_->SetPicture(imageList1_, firstDie);
     imgRolled2_->SetPicture(imageList1_, secondDie);
@@ -55,7 +52,7 @@ void Form1::RollDice() {
 void Form1::Pause() {
     for (std::int16_t outer = 1; outer <= 1000; outer = CheckedAdd(outer, 1)) {
         for (std::int16_t inner = 1; inner <= 250; inner = CheckedAdd(inner, 1)) {
-            platform_.pump.Pass();
+            platform_.pumpEvents();
         }
     }
 }

@@ -3,23 +3,23 @@
 
 #include "highscores/DateTimeText.h"
 
-#include "platform/Clock.h"
 #include "platform/Int16.h"
+#include "platform/Platform.h"
 
 QString TwoDigits(std::int16_t value) {
     const QString digits = QString::number(value);
     return value < 10 ? u'0' + digits : digits;
 }
 
-QString DateTimeText(const Clock& clock) {
-    QString text = QString::number(clock.Year());
+QString DateTimeText(const Platform& platform) {
+    QString text = QString::number(platform.year());
     text += u'/';
-    text += QString::number(clock.Month());
+    text += QString::number(platform.month());
     text += u'/';
-    text += QString::number(clock.Day());
+    text += QString::number(platform.day());
     text += u' ';
-    text += QString::number(clock.Hour());
+    text += QString::number(platform.hour());
     text += u':';
-    text += TwoDigits(ToInt16(clock.Minute()));
+    text += TwoDigits(ToInt16(platform.minute()));
     return text;
 }

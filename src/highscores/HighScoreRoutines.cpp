@@ -4,7 +4,6 @@
 #include "highscores/DateTimeText.h"
 #include "highscores/frmHighScores.h"
 #include "mainwindow/Form1.h"
-#include "platform/SettingsStore.h"
 
 void Form1::LoadHighScores() {
     highScores_.Load(platform_.store);
@@ -18,7 +17,7 @@ void Form1::RecordHighScore(std::int16_t score) {
     const auto rank = highScores_.RankFor(score);
     if (rank) {
         highScores_.MakeRoomAt(*rank);
-        highScores_.Set(*rank, score, DateTimeText(platform_.clock));
+        highScores_.Set(*rank, score, DateTimeText(platform_));
     }
     // On disk before anything else happens, so that no end of the program can lose the round.
     SaveHighScores();

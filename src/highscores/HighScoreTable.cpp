@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString section = u"HighScores"_s;
-
 QString ScoreKey(std::int16_t rank) {
     return u"Score"_s + QString::number(rank);
 }
@@ -60,28 +58,25 @@ QString HighScoreTable::Caption(std::int16_t rank) const {
     return QString::number(Score(rank)) + u"  "_s + Text(rank);
 }
 
-void HighScoreTable::Load(SettingsStore& store) {
-    store.Refresh();
-    for (std::int16_t rank = 1; rank <= Ranks; rank = CheckedAdd(rank, 1)) {
-        const auto text = store.Read(section, ScoreKey(rank), QString());
-        const auto score = text ? ReadScore(*text) : std::nullopt;
-        scores_[Element(rank)] = score.value_or(Score(rank));
+void HighScoreTable::Load(const SettingsStore& store) {
+    const auto stored = store.Read();
+    if (!stored) {
+        return;
     }
     for (std::int16_t rank = 1; rank <= Ranks; rank = CheckedAdd(rank, 1)) {
-        texts_[Element(rank)] = store.Read(section, TextKey(rank), QString()).value_or(Text(rank));
+        Set(rank, ReadScore(stored->value(ScoreKey(rank))).value_or(Score(rank)), stored->value(TextKey(rank)));
     }
 }
 
-void HighScoreTable::Save(SettingsStore& store) const {
+void HighScoreTable::Save(const SettingsStore& store) const {
+    SettingsMap texts;
     for (std::int16_t rank = 1; rank <= Ranks; rank = CheckedAdd(rank, 1)) {
-        store.Write(section, ScoreKey(rank), QString::number(Score(rank)));
+        texts.insert(ScoreKey(rank), QString::number(Score(rank)));
+        texts.insert(TextKey(rank), Text(rank));
     }
-    for (std::int16_t rank = 1; rank <= Ranks; rank = CheckedAdd(rank, 1)) {
-        store.Write(section, TextKey(rank), Text(rank));
-    }
-    store.Commit();
+    store.Write(texts);
 }
 
-void ResetStoredScores(SettingsStore& store) {
+void ResetStoredScores(const SettingsStore& store) {
     HighScoreTable().Save(store);
 }

@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <optional>
 
-class Clock;
 class SettingsStore;
 
 // The five best rounds, rank 1 first: each a score and the date-time text of its round. A new table is all
@@ -34,12 +33,12 @@ public:
     // What a list of the best rounds reads at the rank: the score, two blanks and the text.
     QString Caption(std::int16_t rank) const;
 
-    // Replaces the table with what the store holds, in the store's order. An entry that cannot be read, or
-    // whose score needs more than 16 bits, keeps what it had.
-    void Load(SettingsStore& store);
+    // Replaces the table with what the store holds, in the store's order. A table that cannot be read, and
+    // an entry whose score needs more than 16 bits, keep what they had.
+    void Load(const SettingsStore& store);
 
     // Writes all entries; they are on disk when the call returns, if they can be.
-    void Save(SettingsStore& store) const;
+    void Save(const SettingsStore& store) const;
 
 private:
     std::array<std::int16_t, Ranks> scores_{};
@@ -47,4 +46,4 @@ private:
 };
 
 // Empties the stored table, whatever a table in memory holds.
-void ResetStoredScores(SettingsStore& store);
+void ResetStoredScores(const SettingsStore& store);

@@ -15,12 +15,12 @@ class frmHighScores final : public GreenDialog {
 public:
     // Shows `table` as it stands. "Reset Scores" empties `store`, which outlives the dialog, and leaves
     // `table` alone.
-    frmHighScores(const HighScoreTable& table, SettingsStore& store);
+    frmHighScores(const HighScoreTable& table, const SettingsStore& store);
 
 private:
     void OKButton_Click();
     void CancelButton_Click();
 
-    SettingsStore& store_;
+    const SettingsStore& store_;
     std::array<Label*, HighScoreTable::Ranks> lblHighScore_{};
 };

@@ -16,6 +16,8 @@
 #include <QMenuBar>
 #include <QStatusBar>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -74,8 +76,8 @@ Label* NewReadOut(QWidget* table, const QString& name, TypeSize size, const QStr
 
 } // namespace
 
-Form1::Form1(const Platform& platform)
-    : platform_(platform), imageList1_(u"die"_s, u"jpg"_s, 6), imageList2_(u"cell"_s, u"png"_s, 13),
+Form1::Form1(Platform platform)
+    : platform_(std::move(platform)), imageList1_(u"die"_s, u"jpg"_s, 6), imageList2_(u"cell"_s, u"png"_s, 13),
       rollPicture_(u"roll"_s, u"png"_s), newGamePicture_(u"newgame"_s, u"png"_s), rowArrow_(u"arrow-right"_s, u"ico"_s),
       columnArrow_(u"arrow-down"_s, u"ico"_s) {
     setObjectName(u"Form1"_s);

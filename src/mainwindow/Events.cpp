@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "mainwindow/Form1.h"
-#include "platform/Process.h"
 
 #include <QCloseEvent>
 #include <QEvent>
@@ -44,5 +43,5 @@ void Form1::resizeEvent(QResizeEvent* event) {
 
 void Form1::closeEvent(QCloseEvent* event) {
     event->accept();
-    platform_.process.End();
+    platform_.endProcess();
 }

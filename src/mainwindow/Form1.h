@@ -28,9 +28,8 @@ class QAction;
 // subsystem. A roll lets events run while it pauses, so any handler can run in the middle of RollDice.
 class Form1 final : public QMainWindow {
 public:
-    // The parts of `platform` outlive the window. The window loads the scores and starts a game when it is
-    // first shown.
-    explicit Form1(const Platform& platform);
+    // The window loads the scores and starts a game when it is first shown.
+    explicit Form1(Platform platform);
 
     RollValue PendingRoll() const { return pendingRoll_; }
     const Board& GameBoard() const { return board_; }

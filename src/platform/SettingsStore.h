@@ -3,28 +3,35 @@
 
 #pragma once
 
+#include <QMap>
 #include <QString>
 
 #include <optional>
+#include <utility>
 
-// A per-user store of texts addressed by section and key, which other running copies of the game share.
+// Texts by key.
+using SettingsMap = QMap<QString, QString>;
+
+// Where the high scores are kept: one section of an INI file. Other running copies of the game share the file, so both
+// calls look at it anew. It is not locked: of two copies the one that ends a round later stands.
 //
-// No call ever reports a failure to the player: what cannot be read is nothing, what cannot be written is
-// skipped.
+// No call ever reports a failure to the player: what cannot be read is nothing, what cannot be written is skipped. A
+// thing that is no plain file (a directory, a pipe) under the file's name is never opened, and a file that cannot be
+// read, or is larger than a mebibyte, never replaced.
+//
+// It is not QSettings because that keeps writes that were refused for later, waits for the locks of others and cannot
+// say whether a file is on disk.
 class SettingsStore {
 public:
-    virtual ~SettingsStore() = default;
+    explicit SettingsStore(QString fileName) : fileName_(std::move(fileName)) {}
 
-    // Takes up what the store holds now.
-    virtual void Refresh() = 0;
+    // The section as the file has it now, empty when there is no file; nothing when the file cannot be read.
+    std::optional<SettingsMap> Read() const;
 
-    // The text as it stood at the last Refresh; `fallback` where the store has none; nothing where
-    // the store cannot be read.
-    virtual std::optional<QString> Read(const QString& section, const QString& key, const QString& fallback) = 0;
+    // Writes the texts, all or none: whoever reads the file, or cuts the power, finds all of them or what was there
+    // before. They are on disk when the call returns. Other keys and sections stay as they are in the file.
+    void Write(const SettingsMap& texts) const;
 
-    virtual void Write(const QString& section, const QString& key, const QString& text) = 0;
-
-    // Makes all writes since the last Commit permanent, together: whoever reads the store, or cuts the power,
-    // finds all of them or none. They are on disk when the call returns.
-    virtual void Commit() = 0;
+private:
+    QString fileName_;
 };

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/IniSettingsStore.h"
+#include "platform/SettingsStore.h"
+
+#include "platform/IniText.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 #include <cerrno>
 #include <filesystem>
-#include <utility>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -22,11 +22,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QLatin1String section("HighScores");
+
 // In bytes, far above anything the game writes: a hostile file must not fill the memory or the time.
 constexpr qint64 largestFile = 1024 * 1024;
 
 // The file's texts, none when there is no such file; nothing when it cannot be read.
 std::optional<IniMap> ReadFile(const QString& fileName) {
+    // QFileInfo takes a thing that it may not look at for one that is not there.
     std::error_code error;
     const auto kind = std::filesystem::status(QFile::encodeName(fileName).toStdString(), error).type();
     if (kind == std::filesystem::file_type::not_found) {
@@ -65,37 +68,33 @@ void SyncFolder(const QString& folder) {
 
 } // namespace
 
-QString IniSettingsStore::DefaultFileName() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Kelvaro/KVR.ini"_s;
+std::optional<SettingsMap> SettingsStore::Read() const {
+    const auto file = ReadFile(fileName_);
+    if (!file) {
+        return std::nullopt;
+    }
+    SettingsMap texts;
+    for (auto entry = file->constBegin(); entry != file->constEnd(); ++entry) {
+        if (entry.key().first == section) {
+            texts.insert(entry.key().second, entry.value());
+        }
+    }
+    return texts;
 }
 
-IniSettingsStore::IniSettingsStore(QString fileName) : fileName_(std::move(fileName)) {
-}
-
-void IniSettingsStore::Refresh() {
-    texts_ = ReadFile(fileName_);
-}
-
-std::optional<QString> IniSettingsStore::Read(const QString& section, const QString& key, const QString& fallback) {
-    return texts_ ? std::optional(texts_->value({section, key}, fallback)) : std::nullopt;
-}
-
-void IniSettingsStore::Write(const QString& section, const QString& key, const QString& text) {
-    staged_.insert({section, key}, text);
-}
-
-void IniSettingsStore::Commit() {
-    const IniMap writes = std::exchange(staged_, {});
-    auto texts = ReadFile(fileName_);
-    if (!texts) {
+void SettingsStore::Write(const SettingsMap& texts) const {
+    auto merged = ReadFile(fileName_);
+    if (!merged) {
         return;
     }
-    texts->insert(writes);
-    QDir().mkpath(QFileInfo(fileName_).path());
-    const QByteArray bytes = ComposeIni(*texts).toUtf8();
+    for (auto entry = texts.constBegin(); entry != texts.constEnd(); ++entry) {
+        merged->insert({section, entry.key()}, entry.value());
+    }
+    const QByteArray bytes = ComposeIni(*merged).toUtf8();
     if (bytes.size() > largestFile) {
         return;
     }
+    QDir().mkpath(QFileInfo(fileName_).path());
     QSaveFile file(fileName_);
     // Flushed and synced first: the commit alone would put a file that lacks bytes in the old one's place.
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && Sync(file)

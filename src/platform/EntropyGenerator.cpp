@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/UniformGenerator.h"
+#include "platform/EntropyGenerator.h"
 
 #include <cmath>
 

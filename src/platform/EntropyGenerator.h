@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <random>
+
+// The game's source of uniform numbers. It starts from the system's entropy, and re-seeding folds the given number into
+// the running state instead of replacing it: sixty seeds would be sixty games, and a player could pick the second.
+class EntropyGenerator {
+public:
+    EntropyGenerator();
+
+    // Starts from `seed` instead of the system's entropy: the same seed gives the same numbers.
+    explicit EntropyGenerator(std::uint32_t seed);
+
+    void Reseed(int seconds);
+
+    // The next number, in [0, 1).
+    double Next();
+
+private:
+    std::mt19937_64 engine_;
+};
