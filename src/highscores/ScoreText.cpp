@@ -3,78 +3,36 @@
 
 #include "highscores/ScoreText.h"
 
-#include <QString>
+#include <QRegularExpression>
 
-#include <algorithm>
 #include <limits>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-bool IsDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
-
-QString WithoutBlanks(QStringView text) {
-    QString kept;
-    for (const QChar c : text) {
-        if (c != u' ' && c != u'\t' && c != u'\n' && c != u'\r') {
-            kept += c;
-        }
-    }
-    return kept;
-}
-
-QStringView TakeDigits(QStringView& rest) {
-    qsizetype length = 0;
-    while (length < rest.size() && IsDigit(rest.at(length))) {
-        ++length;
-    }
-    const QStringView digits = rest.first(length);
-    rest = rest.sliced(length);
-    return digits;
-}
-
-// The value of `digits`, or some number far above the 16-bit range when it is larger than that.
-int WholePart(QStringView digits) {
-    constexpr int beyond = 1'000'000;
-    int value = 0;
-    for (const QChar digit : digits) {
-        value = qMin(beyond, value * 10 + digit.digitValue());
-    }
-    return value;
-}
-
-// The digits are compared as they stand: a binary fraction could turn 2.5000000000000000001 into a half.
-bool RoundsUp(int whole, QStringView fraction) {
-    if (fraction.isEmpty() || fraction.front() < u'5') {
-        return false;
-    }
-    const bool isHalf =
-        fraction.front() == u'5' && std::ranges::all_of(fraction.sliced(1), [](QChar digit) { return digit == u'0'; });
-    return !isHalf || whole % 2 == 1;
+bool IsBlank(QChar c) {
+    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
 }
 
 } // namespace
 
 std::optional<std::int16_t> ReadScore(QStringView text) {
-    const QString number = WithoutBlanks(text);
-    QStringView rest = number;
-    const bool isNegative = rest.startsWith(u'-');
-    if (isNegative || rest.startsWith(u'+')) {
-        rest = rest.sliced(1);
-    }
-    const int whole = WholePart(TakeDigits(rest));
-    QStringView fraction;
-    if (rest.startsWith(u'.')) {
-        rest = rest.sliced(1);
-        fraction = TakeDigits(rest);
-    }
-    const int magnitude = RoundsUp(whole, fraction) ? whole + 1 : whole;
-    const int value = isNegative ? -magnitude : magnitude;
-
+    static const QRegularExpression number(u"^([+-]?)0*([0-9]*)\\.?([0-9]*)"_s);
     using Limits = std::numeric_limits<std::int16_t>;
-    if (value < Limits::min() || value > Limits::max()) {
+
+    // Through Latin-1, because half a surrogate pair is no text to a regular expression.
+    const auto match = number.match(QString::fromLatin1(text.toLatin1()).removeIf(IsBlank));
+    const QStringView whole = match.capturedView(2);
+    if (whole.size() > Limits::digits10 + 1) {
         return std::nullopt;
     }
-    return static_cast<std::int16_t>(value);
+    // The fraction is compared as it stands: as a binary number 0.50000000000000000001 would be a half.
+    const QStringView fraction = match.capturedView(3);
+    const QString half = u"5"_s.leftJustified(fraction.size(), u'0');
+    const int truncated = whole.toInt();
+    const int magnitude = truncated + (truncated % 2 == 0 ? fraction > half : fraction >= half);
+    const int value = match.capturedView(1) == u'-' ? -magnitude : magnitude;
+    return value < Limits::min() || value > Limits::max() ? std::nullopt
+                                                          : std::optional(static_cast<std::int16_t>(value));
 }
