@@ -120,7 +120,7 @@ private slots:
         QVERIFY(game.form.GameBoard().IsFull() && !game.IsShown("Image1"));
         QVERIFY(!game.Find<QAction>("mnuGameRoll").isEnabled());
         QCOMPARE(game.Caption("lblRolled"), "= 0");
-        QCOMPARE(game.form.HighScores().Score(1), game.Caption("lblTotal").toInt());
+        QCOMPARE(game.form.HighScores().At(1).score, game.Caption("lblTotal").toInt());
         // A full board is replaced without a question.
         QCOMPARE(Focused(game), "imgNewGame");
         Press(game, Qt::Key_Space);

@@ -33,7 +33,7 @@ QString TableText(const HighScoreTable& table) {
 HighScoreTable SomeTable() {
     HighScoreTable table;
     for (std::int16_t rank = 1; rank <= HighScoreTable::Ranks; ++rank) {
-        table.Set(rank, static_cast<std::int16_t>(60 - 10 * rank), QString(QChar('a' + rank - 1)));
+        table.Enter(static_cast<std::int16_t>(60 - 10 * rank), [=] { return QString(QChar('a' + rank - 1)); });
     }
     return table;
 }
@@ -95,13 +95,10 @@ private slots:
         };
         for (const auto& [name, score, expected] : rows) {
             HighScoreTable table = SomeTable();
-            if (const auto rank = table.RankFor(score)) {
-                table.MakeRoomAt(*rank);
-                table.Set(*rank, score, "new");
-            }
+            table.Enter(score, [] { return "new"; });
             QVERIFY2(TableText(table) == expected, name);
         }
-        QVERIFY_THROWS_EXCEPTION(SubscriptError, SomeTable().Score(0));
+        QVERIFY_THROWS_EXCEPTION(SubscriptError, SomeTable().At(0));
     }
 
     void loadingKeepsWhatCannotBeRead() {
@@ -165,10 +162,10 @@ private slots:
               QString("= [x] #"), QString("line\nbreak\r\t\x01"), QString::fromUtf8("\xf0\x9f\x8e\xb2 \xc3\xa9"),
               QString("\""), QString(10'000, 'x'), QString(QChar(0xd83d)) + QChar(0)}) {
             HighScoreTable table;
-            table.Set(2, 4, text);
+            table.Enter(4, [&] { return text; });
             SettingsStore store(name);
             table.Save(store);
-            QCOMPARE(Reloaded(name).Text(2), text);
+            QCOMPARE(Reloaded(name).At(1).text, text);
         }
     }
 

@@ -6,20 +6,18 @@
 #include "platform/Int16.h"
 #include "platform/Platform.h"
 
+using namespace Qt::StringLiterals;
+
 QString TwoDigits(std::int16_t value) {
     const QString digits = QString::number(value);
     return value < 10 ? u'0' + digits : digits;
 }
 
 QString DateTimeText(const Platform& platform) {
-    QString text = QString::number(platform.year());
-    text += u'/';
-    text += QString::number(platform.month());
-    text += u'/';
-    text += QString::number(platform.day());
-    text += u' ';
-    text += QString::number(platform.hour());
-    text += u':';
-    text += TwoDigits(ToInt16(platform.minute()));
-    return text;
+    // Each reading comes after the one before it: the object of a call is made before its argument.
+    return u"%1/%2/%3 %4:%5"_s.arg(platform.year())
+        .arg(platform.month())
+        .arg(platform.day())
+        .arg(platform.hour())
+        .arg(TwoDigits(ToInt16(platform.minute())));
 }

@@ -7,6 +7,8 @@
 #include "platform/Int16.h"
 #include "platform/SettingsStore.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -20,42 +22,24 @@ QString TextKey(std::int16_t rank) {
     return u"User"_s + QString::number(rank);
 }
 
-std::size_t Element(std::int16_t rank) {
-    return static_cast<std::size_t>(CheckedIndex(rank, 1, HighScoreTable::Ranks) - 1);
-}
-
 } // namespace
 
-std::int16_t HighScoreTable::Score(std::int16_t rank) const {
-    return scores_[Element(rank)];
+const HighScoreEntry& HighScoreTable::At(std::int16_t rank) const {
+    return entries_[static_cast<std::size_t>(CheckedIndex(rank, 1, Ranks) - 1)];
 }
 
-const QString& HighScoreTable::Text(std::int16_t rank) const {
-    return texts_[Element(rank)];
-}
-
-void HighScoreTable::Set(std::int16_t rank, std::int16_t score, const QString& text) {
-    scores_[Element(rank)] = score;
-    texts_[Element(rank)] = text;
-}
-
-std::optional<std::int16_t> HighScoreTable::RankFor(std::int16_t score) const {
-    for (std::int16_t rank = 1; rank <= Ranks; rank = CheckedAdd(rank, 1)) {
-        if (Score(rank) < score) {
-            return rank;
-        }
+bool HighScoreTable::Enter(std::int16_t score, const std::function<QString()>& text) {
+    const auto beaten = std::ranges::find_if(entries_, [=](const auto& entry) { return entry.score < score; });
+    if (beaten == entries_.end()) {
+        return false;
     }
-    return std::nullopt;
-}
-
-void HighScoreTable::MakeRoomAt(std::int16_t rank) {
-    for (std::int16_t from = Ranks - 1; from >= rank; from = CheckedAdd(from, -1)) {
-        Set(CheckedAdd(from, 1), Score(from), Text(from));
-    }
+    std::move_backward(beaten, entries_.end() - 1, entries_.end());
+    *beaten = {score, text()};
+    return true;
 }
 
 QString HighScoreTable::Caption(std::int16_t rank) const {
-    return QString::number(Score(rank)) + u"  "_s + Text(rank);
+    return QString::number(At(rank).score) + u"  "_s + At(rank).text;
 }
 
 void HighScoreTable::Load(const SettingsStore& store) {
@@ -63,16 +47,19 @@ void HighScoreTable::Load(const SettingsStore& store) {
     if (!stored) {
         return;
     }
-    for (std::int16_t rank = 1; rank <= Ranks; rank = CheckedAdd(rank, 1)) {
-        Set(rank, ReadScore(stored->value(ScoreKey(rank))).value_or(Score(rank)), stored->value(TextKey(rank)));
+    std::int16_t rank = 1;
+    for (auto& [score, text] : entries_) {
+        score = ReadScore(stored->value(ScoreKey(rank))).value_or(score);
+        text = stored->value(TextKey(rank));
+        rank = CheckedAdd(rank, 1);
     }
 }
 
 void HighScoreTable::Save(const SettingsStore& store) const {
     SettingsMap texts;
     for (std::int16_t rank = 1; rank <= Ranks; rank = CheckedAdd(rank, 1)) {
-        texts.insert(ScoreKey(rank), QString::number(Score(rank)));
-        texts.insert(TextKey(rank), Text(rank));
+        texts.insert(ScoreKey(rank), QString::number(At(rank).score));
+        texts.insert(TextKey(rank), At(rank).text);
     }
     store.Write(texts);
 }

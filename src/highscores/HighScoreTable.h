@@ -7,28 +7,29 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
+#include <functional>
 
 class SettingsStore;
 
-// The five best rounds, rank 1 first: each a score and the date-time text of its round. A new table is all
-// zeros with empty texts, which is also what an unused rank looks like.
+// One row of the table: a round's score and the date-time text of its end.
+struct HighScoreEntry {
+    std::int16_t score = 0;
+    QString text;
+};
+
+// The five best rounds, rank 1 first. A new table is all zeros with empty texts, which is also what an unused
+// rank looks like.
 //
 // Ranks are 1..5 throughout; any other throws SubscriptError.
 class HighScoreTable {
 public:
     static constexpr std::int16_t Ranks = 5;
 
-    std::int16_t Score(std::int16_t rank) const;
-    const QString& Text(std::int16_t rank) const;
-    void Set(std::int16_t rank, std::int16_t score, const QString& text);
+    const HighScoreEntry& At(std::int16_t rank) const;
 
-    // The rank at which `score` would enter: the first whose score is less, so a tie goes below the older
-    // entry. Nothing when no rank has a lower score.
-    std::optional<std::int16_t> RankFor(std::int16_t score) const;
-
-    // Moves the entries from `rank` on one rank down; the last one is dropped.
-    void MakeRoomAt(std::int16_t rank);
+    // Puts a score that beats one of the table's above the first that is less, so a tie goes below the older entry, and
+    // drops the last entry. Whether it did; `text` is asked for only then.
+    bool Enter(std::int16_t score, const std::function<QString()>& text);
 
     // What a list of the best rounds reads at the rank: the score, two blanks and the text.
     QString Caption(std::int16_t rank) const;
@@ -41,8 +42,7 @@ public:
     void Save(const SettingsStore& store) const;
 
 private:
-    std::array<std::int16_t, Ranks> scores_{};
-    std::array<QString, Ranks> texts_;
+    std::array<HighScoreEntry, Ranks> entries_;
 };
 
 // Empties the stored table, whatever a table in memory holds.

@@ -14,14 +14,10 @@ void Form1::SaveHighScores() {
 }
 
 void Form1::RecordHighScore(std::int16_t score) {
-    const auto rank = highScores_.RankFor(score);
-    if (rank) {
-        highScores_.MakeRoomAt(*rank);
-        highScores_.Set(*rank, score, DateTimeText(platform_));
-    }
+    const bool hasEntered = highScores_.Enter(score, [this] { return DateTimeText(platform_); });
     // On disk before anything else happens, so that no end of the program can lose the round.
     SaveHighScores();
-    if (rank) {
+    if (hasEntered) {
         ShowHighScores();
     }
 }
