@@ -10,8 +10,6 @@
 
 namespace {
 
-using Hand = std::array<RollValue, 5>;
-
 int Score(const Hand& hand) {
     return EvaluateHand(hand[0], hand[1], hand[2], hand[3], hand[4]);
 }

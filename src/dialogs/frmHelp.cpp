@@ -4,6 +4,7 @@
 #include "dialogs/frmHelp.h"
 
 #include "mainwindow/Form1.h"
+#include "scoring/EvaluateHand.h"
 
 #include <QPushButton>
 
@@ -13,24 +14,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ChartRow {
-    const char* name;
-    QRect place;
-    const char* caption;
-};
-
-// By points, as the game counts them: two pair beats three of a kind. The uneven steps leave room for two
-// lines.
-constexpr std::array<ChartRow, 8> chart{{
-    {"Label4", {8, 128, 361, 25}, "Pair = 5 points: Two rolls with the same number"},
-    {"Label5", {8, 152, 417, 33}, "Three of a Kind = 10 points: Three rolls with the same number"},
-    {"Label6", {8, 192, 417, 33}, "Two Pair = 15 points: Two sets of two rolls with the same number"},
-    {"Label7", {8, 232, 417, 33}, "Four of a Kind = 20 points: Four rolls with the same number"},
-    {"Label8", {8, 256, 417, 33}, "Full House = 25 points: One pair and one Three of a Kind"},
-    {"Label9", {8, 280, 417, 33}, "Small Straight = 30 points: Four rolls in numeric sequence"},
-    {"Label10", {8, 304, 417, 33}, "Large Straight = 40 points: Five rolls in numeric sequence"},
-    {"Label11", {8, 328, 417, 33}, "Five of a Kind = 50 points: Five rolls with the same number"},
+// Where the chart's rows stand, the lowest points first. The uneven steps leave room for two lines.
+constexpr std::array<QRect, 8> chartPlaces{{
+    {8, 128, 361, 25},
+    {8, 152, 417, 33},
+    {8, 192, 417, 33},
+    {8, 232, 417, 33},
+    {8, 256, 417, 33},
+    {8, 280, 417, 33},
+    {8, 304, 417, 33},
+    {8, 328, 417, 33},
 }};
+constexpr int firstChartLabel = 4;
 
 const QString playText = QStringLiteral("Kelvaro is played on a five by five grid. On each turn, you roll "
                                         "the dice by clicking on \"Roll\", then place "
@@ -52,10 +47,12 @@ frmHelp::frmHelp() : GreenDialog(u"frmHelp"_s, u"How To Play Kelvaro"_s, QSize(4
     AddLabel({u"Label2"_s, {8, 32, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, playText});
     AddLabel({u"Label3"_s, {8, 80, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, objectText});
     std::vector<Label*> rows;
-    rows.reserve(chart.size());
-    for (const ChartRow& row : chart) {
-        rows.push_back(AddLabel({QLatin1String(row.name), row.place, Colours::chart, TypeSize::Chart, QFont::Bold,
-                                 QLatin1String(row.caption)}));
+    rows.reserve(chartPlaces.size());
+    for (std::size_t at = 0; at < chartPlaces.size(); ++at) {
+        const HandCategory& hand = handCategories[chartPlaces.size() - 1 - at];
+        rows.push_back(AddLabel(
+            {u"Label%1"_s.arg(firstChartLabel + at), chartPlaces[at], Colours::chart, TypeSize::Chart, QFont::Bold,
+             u"%1 = %2 points: %3"_s.arg(QLatin1String(hand.name)).arg(hand.points).arg(QLatin1String(hand.rule))}));
     }
     FitLabels();
     FitAlike(rows);

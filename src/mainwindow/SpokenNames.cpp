@@ -4,7 +4,7 @@
 #include "mainwindow/SpokenNames.h"
 
 #include "scoring/BoardLines.h"
-#include "scoring/HandCategory.h"
+#include "scoring/EvaluateHand.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +15,7 @@ QString SpokenNames::Cell(std::int16_t row, std::int16_t column, RollValue value
 
 QString SpokenNames::Line(const BoardLine& line, std::int16_t points) {
     const QString kind = line.kind == BoardLine::Kind::Row ? u"Row"_s : u"Column"_s;
-    const QString hand = HandName(static_cast<HandCategory>(points));
+    const QString hand = QLatin1String(HandName(points));
     return u"%1 %2: %3 points, %4"_s.arg(kind).arg(line.number).arg(points).arg(hand);
 }
 

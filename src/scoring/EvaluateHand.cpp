@@ -4,15 +4,11 @@
 #include "scoring/EvaluateHand.h"
 
 #include "platform/Int16.h"
-#include "scoring/HandCategory.h"
 
 #include <algorithm>
-#include <array>
 #include <functional>
 
 namespace {
-
-using Hand = std::array<RollValue, 5>;
 
 constexpr RollValue lowestSum = 2;
 constexpr RollValue highestSum = 12;
@@ -87,26 +83,29 @@ bool IsPair(const Hand& hand) {
     return SumsOccurring(2, hand) > 0;
 }
 
-struct HandTest {
-    bool (*holds)(const Hand&);
-    HandCategory category;
-};
-
-// Most valuable first: the first test that holds decides.
-constexpr std::array handTests{
-    HandTest{IsFiveOfAKind, HandCategory::FiveOfAKind},     HandTest{IsLargeStraight, HandCategory::LargeStraight},
-    HandTest{IsSmallStraight, HandCategory::SmallStraight}, HandTest{IsFullHouse, HandCategory::FullHouse},
-    HandTest{IsFourOfAKind, HandCategory::FourOfAKind},     HandTest{IsTwoPair, HandCategory::TwoPair},
-    HandTest{IsThreeOfAKind, HandCategory::ThreeOfAKind},   HandTest{IsPair, HandCategory::Pair},
-};
-
-HandCategory Categorize(const Hand& hand) {
-    const auto found = std::ranges::find_if(handTests, [&](const HandTest& test) { return test.holds(hand); });
-    return found == handTests.end() ? HandCategory::NoHand : found->category;
+bool IsAnything(const Hand&) {
+    return true;
 }
 
 } // namespace
 
+constexpr std::array<HandCategory, 9> handCategories{{
+    {IsFiveOfAKind, 50, "Five of a Kind", "Five rolls with the same number"},
+    {IsLargeStraight, 40, "Large Straight", "Five rolls in numeric sequence"},
+    {IsSmallStraight, 30, "Small Straight", "Four rolls in numeric sequence"},
+    {IsFullHouse, 25, "Full House", "One pair and one Three of a Kind"},
+    {IsFourOfAKind, 20, "Four of a Kind", "Four rolls with the same number"},
+    {IsTwoPair, 15, "Two Pair", "Two sets of two rolls with the same number"},
+    {IsThreeOfAKind, 10, "Three of a Kind", "Three rolls with the same number"},
+    {IsPair, 5, "Pair", "Two rolls with the same number"},
+    {IsAnything, 0, "No hand", ""},
+}};
+
+const char* HandName(std::int16_t points) {
+    return std::ranges::find(handCategories, points, &HandCategory::points)->name;
+}
+
 std::int16_t EvaluateHand(RollValue a, RollValue b, RollValue c, RollValue d, RollValue e) {
-    return static_cast<std::int16_t>(Categorize({a, b, c, d, e}));
+    const Hand hand{a, b, c, d, e};
+    return std::ranges::find_if(handCategories, [&](const auto& category) { return category.holds(hand); })->points;
 }
