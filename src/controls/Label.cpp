@@ -24,7 +24,7 @@ Label::Label(QWidget* parent, const QFont& font, const QColor& colour, Qt::Align
     setFont(font_);
 }
 
-Label::Label(QWidget* parent) : QLabel(parent), Placement(this), font_(font()), largestSize_(0) {
+Label::Label(QWidget* parent) : QLabel(parent), font_(font()), largestSize_(0) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);

@@ -3,13 +3,11 @@
 
 #pragma once
 
-#include "controls/Placement.h"
-
 #include <QLabel>
 
 // A label for plain text, wrapped within its width from the top down. Text that does not fit is made smaller
 // until it does. Clicks go through it.
-class Label final : public QLabel, public Placement {
+class Label final : public QLabel {
 public:
     Label(QWidget* parent, const QFont& font, const QColor& colour, Qt::AlignmentFlag alignment);
 

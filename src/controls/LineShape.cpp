@@ -9,29 +9,22 @@
 
 #include <algorithm>
 
-LineShape::LineShape(QWidget* parent, const Ends& ends, int thickness, const QColor& colour)
-    : QWidget(parent), ends_(ends), thickness_(thickness), colour_(colour) {
+LineShape::LineShape(QWidget* parent, const QLineF& ends, int thickness, const QColor& colour)
+    : QWidget(parent), thickness_(thickness), colour_(colour) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    Apply();
+    SetEnds(ends);
+}
+
+void LineShape::SetEnds(const QLineF& ends) {
+    const auto [left, right] = std::minmax({ToPixels(ends.x1()), ToPixels(ends.x2())});
+    const auto [top, bottom] = std::minmax({ToPixels(ends.y1()), ToPixels(ends.y2())});
+    if (top == bottom) {
+        setGeometry(left, top - thickness_ / 2, right - left, thickness_);
+    } else {
+        setGeometry(left - thickness_ / 2, top, thickness_, bottom - top);
+    }
 }
 
 void LineShape::paintEvent(QPaintEvent*) {
     QPainter(this).fillRect(rect(), colour_);
-}
-
-void LineShape::Move(double& coordinate, double value) {
-    coordinate = value;
-    Apply();
-}
-
-void LineShape::Apply() {
-    const auto [left, right] = std::minmax({ToPixels(ends_.x1), ToPixels(ends_.x2)});
-    const auto [top, bottom] = std::minmax({ToPixels(ends_.y1), ToPixels(ends_.y2)});
-    // While a line is moved end by end it is slanted for a moment; the longer extent tells its direction even
-    // then.
-    if (right - left >= bottom - top) {
-        setGeometry(left, bottom - thickness_ / 2, right - left, thickness_);
-    } else {
-        setGeometry(right - thickness_ / 2, top, thickness_, bottom - top);
-    }
 }

@@ -76,7 +76,7 @@ void ShowKeyboardFocus(QWidget& window, bool isShown) {
     }
 }
 
-Picture::Picture(QWidget* parent) : QWidget(parent), Placement(this), PictureFace(this) {
+Picture::Picture(QWidget* parent) : QWidget(parent), PictureFace(this) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -85,7 +85,7 @@ void Picture::paintEvent(QPaintEvent*) {
 }
 
 PictureButton::PictureButton(QWidget* parent, const HotArea& hotArea)
-    : QAbstractButton(parent), Placement(this), PictureFace(this), hotArea_(hotArea) {
+    : QAbstractButton(parent), PictureFace(this), hotArea_(hotArea) {
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
 }

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "controls/Placement.h"
 #include "pictures/PictureList.h"
 
 #include <QAbstractButton>
@@ -43,7 +42,7 @@ private:
 void ShowKeyboardFocus(QWidget& window, bool isShown);
 
 // A picture to look at. Clicks go through it.
-class Picture final : public QWidget, public Placement, public PictureFace {
+class Picture final : public QWidget, public PictureFace {
 public:
     explicit Picture(QWidget* parent);
 
@@ -54,7 +53,7 @@ protected:
 // A picture to click: with the left button, released inside the picture, or with Space or Enter. Under the pointer it
 // lights up, and pressed it darkens, but only while a click would do something. Its focus is drawn from the first key
 // on and no longer when the mouse is used.
-class PictureButton final : public QAbstractButton, public Placement, public PictureFace {
+class PictureButton final : public QAbstractButton, public PictureFace {
 public:
     // What lights up, in pixels: a rounded rectangle within the picture.
     struct HotArea {

@@ -3,9 +3,11 @@
 
 #pragma once
 
-#include <QtGlobal>
+#include <QRectF>
+#include <QWidget>
 
-// Positions and sizes of the main window are in twips, 1/1440 inch: 15 to a pixel at 96 dots per inch.
+// Positions and sizes of the main window are in twips, 1/1440 inch: 15 to a pixel at 96 dots per inch. They are
+// computed as exact numbers and rounded once, when a control takes them over.
 inline constexpr double twipsPerPixel = 15.0;
 
 // The nearest whole pixel.
@@ -15,4 +17,14 @@ inline int ToPixels(double twips) {
 
 inline double ToTwips(int pixels) {
     return pixels * twipsPerPixel;
+}
+
+// Gives a control its position and size.
+inline void Place(QWidget& control, const QRectF& twips) {
+    control.setGeometry(ToPixels(twips.x()), ToPixels(twips.y()), ToPixels(twips.width()), ToPixels(twips.height()));
+}
+
+// Gives a control its position; its size stays.
+inline void MoveTo(QWidget& control, double left, double top) {
+    control.move(ToPixels(left), ToPixels(top));
 }

@@ -3,12 +3,12 @@
 
 #include "dialogs/GreenDialog.h"
 
-#include "controls/CentredOn.h"
 #include "controls/Label.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
 #include <QWindow>
 
 #include <algorithm>
@@ -50,7 +50,7 @@ void GreenDialog::ShowModal(const QWidget& window) {
     winId();
     windowHandle()->setTransientParent(window.windowHandle());
     const QSize outer = size().grownBy(window.windowHandle()->frameMargins());
-    move(CentredOn(window.screen()->geometry(), outer));
+    move(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, outer, window.screen()->geometry()).topLeft());
     exec();
 }
 

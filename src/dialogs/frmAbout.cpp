@@ -5,7 +5,7 @@
 
 #include "controls/LineShape.h"
 #include "controls/Picture.h"
-#include "mainwindow/Form1.h"
+#include "controls/Twips.h"
 
 #include <QPushButton>
 
@@ -42,9 +42,4 @@ frmAbout::frmAbout()
 
 void frmAbout::cmdOK_Click() {
     Unload();
-}
-
-void Form1::mnuHelpAbout_Click() {
-    frmAbout dialog;
-    dialog.ShowModal(*this);
 }

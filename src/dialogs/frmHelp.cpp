@@ -3,7 +3,6 @@
 
 #include "dialogs/frmHelp.h"
 
-#include "mainwindow/Form1.h"
 #include "scoring/EvaluateHand.h"
 
 #include <QPushButton>
@@ -60,9 +59,4 @@ frmHelp::frmHelp() : GreenDialog(u"frmHelp"_s, u"How To Play Kelvaro"_s, QSize(4
 
 void frmHelp::OKButton_Click() {
     Unload();
-}
-
-void Form1::mnuHelpHow_Click() {
-    frmHelp dialog;
-    dialog.ShowModal(*this);
 }

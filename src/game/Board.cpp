@@ -3,19 +3,13 @@
 
 #include "game/Board.h"
 
-#include "platform/Int16.h"
-
 #include <algorithm>
 
-namespace {
-
-std::size_t Element(std::int16_t row, std::int16_t column) {
-    CheckedIndex(row, 1, Board::Side);
-    CheckedIndex(column, 1, Board::Side);
-    return static_cast<std::size_t>((row - 1) + Board::Side * (column - 1));
+std::size_t Board::Element(std::int16_t row, std::int16_t column) {
+    CheckedIndex(row, 1, Side);
+    CheckedIndex(column, 1, Side);
+    return static_cast<std::size_t>((row - 1) + Side * (column - 1));
 }
-
-} // namespace
 
 RollValue Board::At(std::int16_t row, std::int16_t column) const {
     return cells_[Element(row, column)];

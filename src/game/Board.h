@@ -4,8 +4,10 @@
 #pragma once
 
 #include "game/RollValue.h"
+#include "platform/Int16.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 // The grid's 25 placed values, addressed by row and column, both 1..5. A new board is empty.
@@ -22,7 +24,26 @@ public:
 
     bool operator==(const Board&) const = default;
 
+    // The place of a cell, from 0, in an array of all: column by column, the row varies fastest. Throws as above.
+    static std::size_t Element(std::int16_t row, std::int16_t column);
+
 private:
-    // Column by column: the row varies fastest.
     std::array<RollValue, Side * Side> cells_{};
 };
+
+struct CellPosition {
+    std::int16_t row = 1;
+    std::int16_t column = 1;
+};
+
+// All cells, row by row.
+inline constexpr auto boardCells = [] {
+    std::array<CellPosition, Board::Side * Board::Side> cells;
+    auto cell = cells.begin();
+    for (std::int16_t row = 1; row <= Board::Side; row = CheckedAdd(row, 1)) {
+        for (std::int16_t column = 1; column <= Board::Side; column = CheckedAdd(column, 1)) {
+            *cell++ = {row, column};
+        }
+    }
+    return cells;
+}();

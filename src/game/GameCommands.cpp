@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "controls/Picture.h"
+#include "dialogs/frmAbout.h"
+#include "dialogs/frmHelp.h"
 #include "mainwindow/Form1.h"
-#include "platform/Int16.h"
 
 #include <QAction>
 #include <QMessageBox>
@@ -29,10 +30,8 @@ void Form1::StartNewGame() {
     board_.Clear();
     pendingRoll_ = 0;
     UpdateScores();
-    for (std::int16_t row = 1; row <= Board::Side; row = CheckedAdd(row, 1)) {
-        for (std::int16_t column = 1; column <= Board::Side; column = CheckedAdd(column, 1)) {
-            ShowCell(Cell(row, column), row, column);
-        }
+    for (const auto [row, column] : boardCells) {
+        ShowCell(Cell(row, column), row, column);
     }
     mnuGameRoll_->setEnabled(true);
     image1_->show();
@@ -58,4 +57,12 @@ void Form1::mnuGameExit_Click() {
     if (Confirm(this, u"Are you sure you want to quit?"_s)) {
         platform_.endProcess();
     }
+}
+
+void Form1::mnuHelpHow_Click() {
+    frmHelp().ShowModal(*this);
+}
+
+void Form1::mnuHelpAbout_Click() {
+    frmAbout().ShowModal(*this);
 }

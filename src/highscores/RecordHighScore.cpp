@@ -28,6 +28,5 @@ void Form1::mnuGameHigh_Click() {
 }
 
 void Form1::ShowHighScores() {
-    frmHighScores dialog(highScores_, platform_.store);
-    dialog.ShowModal(*this);
+    frmHighScores(highScores_, platform_.store).ShowModal(*this);
 }

@@ -25,9 +25,9 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
     // The window manager announces no change of its frame; it is settled when the window can be seen.
     if (watched == windowHandle() && event->type() == QEvent::Expose && windowHandle()->isExposed()) {
         if (!isFrameKnown_) {
-            Form_FirstPicture();
+            OnFrameKnown();
         } else if (windowHandle()->frameMargins() != frame_) {
-            Form_FrameChanged();
+            OnFrameChanged();
         }
     }
     return QMainWindow::eventFilter(watched, event);

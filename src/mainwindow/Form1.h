@@ -8,6 +8,7 @@
 #include "highscores/HighScoreTable.h"
 #include "pictures/PictureList.h"
 #include "platform/Platform.h"
+#include "scoring/BoardLines.h"
 
 #include <QMainWindow>
 #include <QMargins>
@@ -15,6 +16,7 @@
 
 #include <array>
 #include <cstdint>
+#include <vector>
 
 class Label;
 class LineShape;
@@ -52,16 +54,13 @@ protected:
 private:
     // The read-out, marker and strike line of one row or column.
     struct LineControls {
+        BoardLine line;
         Label* readOut = nullptr;
         Picture* marker = nullptr;
         LineShape* strike = nullptr;
     };
 
-    // Where the keyboard is in the grid.
-    struct CellPosition {
-        std::int16_t row = 1;
-        std::int16_t column = 1;
-    };
+    struct Grid;
 
     // game/
     void Form_Load();
@@ -73,6 +72,8 @@ private:
     void mnuGameRoll_Click();
     void mnuNewGame_Click();
     void mnuGameExit_Click();
+    void mnuHelpHow_Click();
+    void mnuHelpAbout_Click();
 
     // scoring/
     void UpdateScores();
@@ -84,20 +85,17 @@ private:
     void mnuGameHigh_Click();
     void ShowHighScores();
 
-    // dialogs/
-    void mnuHelpHow_Click();
-    void mnuHelpAbout_Click();
-
     // mainwindow/: composition
+    void Compose();
     void ComposeMenus();
     void ComposeStrikeLines(QWidget* table);
     void ComposeCells(QWidget* table);
     void ComposeReadOuts(QWidget* table);
     void ComposeButtonStrip(QWidget* table);
     void ComposeStatusBar();
+
+    // mainwindow/: what the routines ask of the controls
     PictureButton& Cell(std::int16_t row, std::int16_t column) const;
-    LineControls& Row(std::int16_t row);
-    LineControls& Column(std::int16_t column);
     // What is seen and what is spoken of a cell, as the board has it, and of the sum, as the pending roll is.
     void ShowCell(PictureButton& cell, std::int16_t row, std::int16_t column);
     void ShowSum(const QString& caption);
@@ -112,13 +110,13 @@ private:
 
     // mainwindow/: layout
     void Form_Resize();
-    void LayOutHorizontally(double outerWidth);
-    void LayOutVertically(double outerHeight);
-    void Form_FirstPicture();
-    void Form_FrameChanged();
+    void LayOut();
+    static void LayOutRow(const LineControls& row, const Grid& grid);
+    static void LayOutColumn(const LineControls& column, const Grid& grid);
+    void LayOutStrip(const QSizeF& outer, double gridRight);
+    void OnFrameKnown();
+    void OnFrameChanged();
     QSize OuterSize() const;
-    void SetOuterWidth(double twips);
-    void SetOuterHeight(double twips);
 
     RollValue pendingRoll_ = 0;
     Board board_;
@@ -128,7 +126,7 @@ private:
     bool isLoaded_ = false;
     bool isFrameKnown_ = false;
     QMargins frame_;
-    CellPosition currentCell_;
+    CellPosition currentCell_; // where the keyboard is in the grid
 
     PictureList imageList1_;
     PictureList imageList2_;
@@ -137,8 +135,8 @@ private:
     PictureList rowArrow_;
     PictureList columnArrow_;
 
-    std::array<PictureButton*, Board::Side * Board::Side> cells_{};
-    std::array<LineControls, 2 * Board::Side> lineControls_{};
+    std::array<PictureButton*, boardCells.size()> cells_{}; // as the board has them
+    std::vector<LineControls> lines_;                       // in the order in which they are scored
     Picture* imgRolled1_ = nullptr;
     Picture* imgRolled2_ = nullptr;
     Label* lblRolled_ = nullptr;

@@ -3,7 +3,6 @@
 
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "platform/Int16.h"
 
 #include <QKeyEvent>
 
@@ -78,10 +77,10 @@ bool Form1::focusNextPrevChild(bool next) {
 }
 
 void Form1::FollowFocus() {
-    const auto focused = std::find(cells_.begin(), cells_.end(), focusWidget());
-    if (focused != cells_.end()) {
-        const auto index = focused - cells_.begin();
-        currentCell_ = {ToInt16(index / Board::Side + 1), ToInt16(index % Board::Side + 1)};
+    for (const CellPosition& position : boardCells) {
+        if (focusWidget() == &Cell(position.row, position.column)) {
+            currentCell_ = position;
+        }
     }
 }
 
@@ -90,7 +89,7 @@ void Form1::FocusGrid() {
 }
 
 void Form1::FocusEmptyCell() {
-    for (int tried = 0; tried < Board::Side * Board::Side && board_.At(currentCell_.row, currentCell_.column) != 0;
+    for (int tried = 0; tried < int{boardCells.size()} && board_.At(currentCell_.row, currentCell_.column) != 0;
          ++tried) {
         currentCell_.column = Wrapped(currentCell_.column, 1);
         if (currentCell_.column == 1) {

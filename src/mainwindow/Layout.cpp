@@ -1,144 +1,152 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "controls/CentredOn.h"
 #include "controls/Label.h"
 #include "controls/LineShape.h"
 #include "controls/Picture.h"
 #include "controls/Twips.h"
+#include "mainwindow/Design.h"
 #include "mainwindow/Form1.h"
-#include "platform/Int16.h"
 
 #include <QScreen>
+#include <QStyle>
 #include <QWindow>
 
 #include <array>
 
 namespace {
 
-// The smallest outer size, in twips.
-constexpr double floorWidth = 6270;
-constexpr double floorHeight = 8115;
+// The smallest outer size, in pixels: 6270 by 8115 twips.
+constexpr QSize smallestOuterSize(418, 541);
 
-// What each row's read-out is set off from the row's pitch, rows 1 to 5; irregular by design.
-constexpr std::array<double, Board::Side> readOutOffsets{0, 160, 80, 0, -60};
+// Twips from here on. The window's pitch is a sixth of what the grid spreads over.
+constexpr double pitches = 6;
+constexpr double lastPitch = 5;
 
-// The dividing marks between rows and columns 2 to 5, which follow the window; number 1 is the anchor of the
-// grid.
-constexpr std::array<std::int16_t, 4> movingNumbers{2, 3, 4, 5};
+// How much closer than the pitch the cells stand, a step.
+constexpr double columnTightening = 160;
+constexpr double rowTightening = 80;
+
+// How far the markers overlap the last cell, and where the read-outs stand, seen from the pitch; the rows' are
+// irregular by design.
+constexpr double markerOverlap = 150;
+constexpr double rowReadOutShift = -500;
+constexpr std::array<double, Board::Side> rowReadOutDrops{240, 160, 80, 0, -60};
+constexpr double columnReadOutDrop = 75;
+
+// How far above the window's lower edge the strip's parts begin.
+constexpr double separatorHeight = 2500;
+constexpr double buttonHeight = 2400;
+constexpr double rollHeight = 2300;
+constexpr double buttonGap = 100;
 
 } // namespace
+
+// The grid as a window of some outer size spreads it.
+struct Form1::Grid {
+    // The rows' pitch is taken from the separator's full height, unlike the columns'.
+    explicit Grid(const QSizeF& outer)
+        : columnPitch((outer.width() - Design::cell.left()) / pitches),
+          rowPitch((outer.height() - separatorHeight) / pitches) {}
+
+    double Left(int column) const { return PitchLeft(column - 1) - columnTightening * (column - 1); }
+    double Top(int row) const { return PitchTop(row - 1) - rowTightening * (row - 1); }
+    double PitchLeft(double steps) const { return Design::cell.left() + steps * columnPitch; }
+    double PitchTop(double steps) const { return Design::cell.top() + steps * rowPitch; }
+
+    // The edges of the last column and the last row.
+    double LastLeft() const { return Left(Board::Side); }
+    double LastTop() const { return Top(Board::Side); }
+    double Right() const { return LastLeft() + Design::cell.width(); }
+    double Bottom() const { return LastTop() + Design::cell.height(); }
+
+    double columnPitch;
+    double rowPitch;
+};
 
 void Form1::Form_Resize() {
     if (isMinimized()) {
         return;
     }
-    const double outerWidth = ToTwips(OuterSize().width());
-    line1_->SetX2(outerWidth);
-    if (outerWidth <= floorWidth - 1) {
-        SetOuterWidth(floorWidth);
+    const QSize outer = OuterSize();
+    const QSize allowed = outer.expandedTo(smallestOuterSize);
+    if (outer != allowed) {
+        resize(allowed.shrunkBy(frame_)); // raises the event again
     } else {
-        LayOutHorizontally(outerWidth);
-    }
-
-    const double outerHeight = ToTwips(OuterSize().height());
-    if (outerHeight <= floorHeight - 1) {
-        SetOuterHeight(floorHeight);
-    } else {
-        LayOutVertically(outerHeight);
+        LayOut();
     }
 }
 
-void Form1::LayOutHorizontally(double outerWidth) {
-    const double anchor = Cell(1, 1).Left();
-    const double pitch = (outerWidth - anchor) / 6;
-    for (const std::int16_t column : movingNumbers) {
-        const int steps = column - 1;
-        for (std::int16_t row = 1; row <= Board::Side; row = CheckedAdd(row, 1)) {
-            Cell(row, column).SetLeft(anchor + steps * pitch - 160 * steps);
-        }
+void Form1::LayOut() {
+    const QSizeF outer = QSizeF(OuterSize()) * twipsPerPixel;
+    const Grid grid(outer);
+    for (const auto [row, column] : boardCells) {
+        MoveTo(Cell(row, column), grid.Left(column), grid.Top(row));
     }
-
-    const PictureButton& lastCell = Cell(1, 5);
-    for (std::int16_t row = 1; row <= Board::Side; row = CheckedAdd(row, 1)) {
-        Row(row).readOut->SetLeft(anchor + 5 * pitch - 500);
-        Row(row).marker->SetLeft(lastCell.Left() + lastCell.Width() - 150);
-        Row(row).strike->SetX1(lastCell.Left());
+    for (const LineControls& line : lines_) {
+        line.line.kind == BoardLine::Kind::Row ? LayOutRow(line, grid) : LayOutColumn(line, grid);
     }
-    lblTotal_->SetLeft(anchor + 5 * pitch - 500);
-
-    for (const std::int16_t column : movingNumbers) {
-        const double left = Cell(1, column).Left();
-        const double middle = left + Cell(1, column).Width() / 2;
-        Column(column).strike->SetX1(middle);
-        Column(column).strike->SetX2(middle);
-        Column(column).marker->SetLeft(middle - Column(column).marker->Width() / 2);
-        Column(column).readOut->SetLeft(left);
-    }
-
-    const double flushWithGrid = lastCell.Left() + lastCell.Width() - imgNewGame_->Width();
-    const double besideRollButton = image1_->Left() + image1_->Width() + 100;
-    imgNewGame_->SetLeft(qMax(flushWithGrid, besideRollButton));
+    MoveTo(*lblTotal_, grid.PitchLeft(lastPitch) + rowReadOutShift, grid.PitchTop(lastPitch));
+    LayOutStrip(outer, grid.Right());
 }
 
-void Form1::LayOutVertically(double outerHeight) {
-    line1_->SetY1(outerHeight - 2500);
-    line1_->SetY2(outerHeight - 2500);
-    image1_->SetTop(outerHeight - 2400);
-    imgNewGame_->SetTop(outerHeight - 2400);
-    imgRolled1_->SetTop(outerHeight - 2300);
-    imgRolled2_->SetTop(outerHeight - 2300);
-    lblRolled_->SetTop(outerHeight - 2300);
-
-    const double anchor = Cell(1, 1).Top();
-    // Taken from the separator's full height, unlike the horizontal pitch.
-    const double pitch = line1_->Y1() / 6;
-    for (const std::int16_t row : movingNumbers) {
-        const int steps = row - 1;
-        const double top = anchor + steps * pitch - 80 * steps;
-        for (std::int16_t column = 1; column <= Board::Side; column = CheckedAdd(column, 1)) {
-            Cell(row, column).SetTop(top);
-        }
-        const double middle = top + Cell(row, 5).Height() / 2;
-        Row(row).strike->SetY1(middle);
-        Row(row).strike->SetY2(middle);
-        Row(row).marker->SetTop(top);
-        Row(row).readOut->SetTop(anchor + steps * pitch + readOutOffsets.at(static_cast<std::size_t>(steps)));
-    }
-
-    const PictureButton& lastCell = Cell(5, 1);
-    for (std::int16_t column = 1; column <= Board::Side; column = CheckedAdd(column, 1)) {
-        Column(column).readOut->SetTop(anchor + 5 * pitch + 75);
-        Column(column).marker->SetTop(lastCell.Top() + lastCell.Height() - 150);
-        Column(column).strike->SetY1(lastCell.Top());
-    }
-    lblTotal_->SetTop(anchor + 5 * pitch);
+void Form1::LayOutRow(const LineControls& row, const Grid& grid) {
+    const std::int16_t number = row.line.number;
+    const double top = grid.Top(number);
+    const double drop = rowReadOutDrops.at(static_cast<std::size_t>(number - 1));
+    MoveTo(*row.readOut, grid.PitchLeft(lastPitch) + rowReadOutShift, grid.PitchTop(number - 1) + drop);
+    MoveTo(*row.marker, grid.Right() - markerOverlap, top);
+    // The first row's height is its own.
+    const QLineF design = Design::Strike(row.line);
+    const double middle = number == 1 ? design.y1() : top + Design::cell.height() / 2;
+    row.strike->SetEnds({grid.LastLeft(), middle, design.x2(), middle});
 }
 
-void Form1::Form_FirstPicture() {
+void Form1::LayOutColumn(const LineControls& column, const Grid& grid) {
+    const std::int16_t number = column.line.number;
+    const double left = grid.Left(number);
+    // The first column is not centred.
+    const bool isFirst = number == 1;
+    const QLineF design = Design::Strike(column.line);
+    const double middle = isFirst ? design.x1() : left + Design::cell.width() / 2;
+    const double markerLeft = isFirst ? left : middle - Design::columnMarker.width() / 2;
+    MoveTo(*column.readOut, left, grid.PitchTop(lastPitch) + columnReadOutDrop);
+    MoveTo(*column.marker, markerLeft, grid.Bottom() - markerOverlap);
+    column.strike->SetEnds({middle, grid.LastTop(), middle, design.y2()});
+}
+
+void Form1::LayOutStrip(const QSizeF& outer, double gridRight) {
+    const double separator = outer.height() - separatorHeight;
+    line1_->SetEnds({0, separator, outer.width(), separator});
+
+    const double buttonTop = outer.height() - buttonHeight;
+    const double flushWithGrid = gridRight - Design::newGameButton.width();
+    const double besideRollButton = Design::rollButton.right() + buttonGap;
+    MoveTo(*image1_, Design::rollButton.left(), buttonTop);
+    MoveTo(*imgNewGame_, qMax(flushWithGrid, besideRollButton), buttonTop);
+
+    const double rollTop = outer.height() - rollHeight;
+    MoveTo(*imgRolled1_, Design::firstDie.left(), rollTop);
+    MoveTo(*imgRolled2_, Design::secondDie.left(), rollTop);
+    MoveTo(*lblRolled_, Design::sum.left(), rollTop);
+}
+
+void Form1::OnFrameKnown() {
     isFrameKnown_ = true;
     frame_ = windowHandle()->frameMargins();
     // Telling the window manager as well spares the player the flicker of a window that snaps back.
-    windowHandle()->setMinimumSize(QSize(ToPixels(floorWidth), ToPixels(floorHeight)).shrunkBy(frame_));
+    windowHandle()->setMinimumSize(smallestOuterSize.shrunkBy(frame_));
     Form_Resize();
-    windowHandle()->setFramePosition(CentredOn(screen()->geometry(), OuterSize()));
+    const QRect centred = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, OuterSize(), screen()->geometry());
+    windowHandle()->setFramePosition(centred.topLeft());
 }
 
-void Form1::Form_FrameChanged() {
-    // Without the floors: a window manager that maximises a window changes its frame first and its size a moment later.
+void Form1::OnFrameChanged() {
+    // Without the floor: a window manager that maximises a window changes its frame first and its size a moment later.
     frame_ = windowHandle()->frameMargins();
-    LayOutHorizontally(ToTwips(OuterSize().width()));
-    LayOutVertically(ToTwips(OuterSize().height()));
+    LayOut();
 }
 
 QSize Form1::OuterSize() const {
     return size().grownBy(frame_);
-}
-
-void Form1::SetOuterWidth(double twips) {
-    resize(ToPixels(twips) - frame_.left() - frame_.right(), height());
-}
-
-void Form1::SetOuterHeight(double twips) {
-    resize(width(), ToPixels(twips) - frame_.top() - frame_.bottom());
 }

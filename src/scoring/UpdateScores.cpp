@@ -8,22 +8,20 @@
 #include "mainwindow/Prompts.h"
 #include "mainwindow/SpokenNames.h"
 #include "platform/Int16.h"
-#include "scoring/BoardLines.h"
 
 #include <QAction>
 
 void Form1::UpdateScores() {
     std::int16_t total = 0;
-    for (std::size_t at = 0; at < boardLines.size(); ++at) {
-        const auto score = ScoreLine(boardLines[at], board_);
-        const LineControls& controls = lineControls_[at];
+    for (const LineControls& line : lines_) {
+        const auto score = ScoreLine(line.line, board_);
         if (score) {
-            controls.readOut->SetCaption(QString::number(*score));
-            controls.readOut->setAccessibleName(SpokenNames::Line(boardLines[at], *score));
+            line.readOut->SetCaption(QString::number(*score));
+            line.readOut->setAccessibleName(SpokenNames::Line(line.line, *score));
         }
-        controls.readOut->setVisible(score.has_value());
-        controls.marker->setVisible(score.has_value());
-        controls.strike->setVisible(score.has_value());
+        line.readOut->setVisible(score.has_value());
+        line.marker->setVisible(score.has_value());
+        line.strike->setVisible(score.has_value());
         total = CheckedAdd(total, score.value_or(0));
     }
     lblTotal_->SetCaption(QString::number(total));

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "scoring/BoardLines.h"
+
+#include <QLineF>
+#include <QRectF>
+
+#include <array>
+
+// Where the main window's controls stand when it is composed, and how large they are, in twips. The layout keeps the
+// sizes and moves most of them.
+namespace Design {
+
+// The first cell and what belongs to row 1 and to column 1; the next cell, row or column is a pitch away. The first
+// cell never moves.
+inline constexpr double pitch = 840;
+inline constexpr QRectF cell{240, 360, 750, 750};
+inline constexpr QRectF rowMarker{4200, 360, 480, 720};
+inline constexpr QRectF rowReadOut{4800, 600, 495, 255};
+inline constexpr QRectF columnMarker{240, 4320, 720, 600};
+inline constexpr QRectF columnReadOut{240, 5160, 735, 255};
+
+// From the last cell of a line to its first; irregular by design.
+inline constexpr std::array<QLineF, Board::Side> rowStrikes{{
+    {4080, 720, 480, 720},
+    {3960, 1560, 600, 1560},
+    {3960, 2400, 600, 2400},
+    {4080, 3240, 600, 3240},
+    {3960, 4080, 600, 4080},
+}};
+inline constexpr std::array<QLineF, Board::Side> columnStrikes{{
+    {585, 4080, 585, 720},
+    {1440, 4320, 1440, 720},
+    {2280, 4200, 2280, 720},
+    {3120, 4200, 3120, 720},
+    {3960, 4200, 3960, 720},
+}};
+
+inline constexpr QRectF total{4560, 5040, 1095, 495};
+inline constexpr QLineF separator{0, 5640, 6120, 5640};
+inline constexpr QRectF rollButton{0, 5760, 2955, 1125};
+inline constexpr QRectF newGameButton{3120, 5760, 2955, 1125};
+inline constexpr QRectF sum{2040, 5880, 1305, 825};
+inline constexpr QRectF firstDie{240, 5880, 750, 750};
+inline constexpr QRectF secondDie{1080, 5880, 750, 750};
+
+inline constexpr QLineF Strike(const BoardLine& line) {
+    const auto& strikes = line.kind == BoardLine::Kind::Row ? rowStrikes : columnStrikes;
+    return strikes[static_cast<std::size_t>(line.number - 1)];
+}
+
+} // namespace Design
