@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "controls/AccessibleTable.h"
+#include "controls/Accessibility.h"
 #include "mainwindow/Form1.h"
 #include "platform/Platform.h"
 
@@ -31,7 +31,7 @@ int main(int, char* argv[]) {
     qInstallMessageHandler(standardHandler);
 
     QGuiApplication::setDesktopFileName(u"io.github.kelvaro.Kelvaro"_s);
-    InstallAccessibleTables();
+    InstallAccessibility();
     Form1 window(SystemPlatform());
     window.show();
     return QApplication::exec();

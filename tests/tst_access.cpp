@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "GameDriver.h"
-#include "controls/AccessibleTable.h"
+#include "controls/Accessibility.h"
 
 #include <QAccessible>
 #include <QPushButton>
@@ -45,7 +45,7 @@ class tst_access : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { InstallAccessibleTables(); }
+    void initTestCase() { InstallAccessibility(); }
 
     void keysMoveTheFocus() {
         GameDriver game;

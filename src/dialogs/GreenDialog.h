@@ -4,7 +4,7 @@
 #pragma once
 
 #include "controls/Appearance.h"
-#include "controls/GreenTable.h"
+#include "controls/GreenSurface.h"
 
 #include <QDialog>
 #include <QRect>
@@ -20,7 +20,7 @@ class QPushButton;
 // and unloaded with it.
 //
 // Escape closes a dialog only through its cancel button.
-class GreenDialog : public GreenTable<QDialog> {
+class GreenDialog : public GreenSurface<QDialog> {
 public:
     // Shows the dialog and returns when it is closed. It stays above `window` but has no owner.
     void ShowModal(const QWidget& window);

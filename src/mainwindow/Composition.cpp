@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "controls/Appearance.h"
-#include "controls/GreenTable.h"
+#include "controls/GreenSurface.h"
 #include "controls/Label.h"
 #include "controls/LineShape.h"
 #include "controls/Picture.h"
@@ -37,10 +37,8 @@ template <typename Control> Control* Named(Control* control, const QString& name
     return control;
 }
 
-Label* NewReadOut(QWidget* table, const QString& name, TypeSize size, const QString& designCaption) {
-    auto* label = Named(new Label(table, LabelFont(size, QFont::Bold), Colours::white, Qt::AlignHCenter), name);
-    label->SetCaption(designCaption);
-    return label;
+Label* NewLabel(QWidget* table, const QString& name, TypeSize size, Qt::AlignmentFlag alignment) {
+    return Named(new Label(table, LabelFont(size, QFont::Bold), Colours::white, alignment), name);
 }
 
 } // namespace
@@ -49,7 +47,7 @@ void Form1::Compose() {
     Named(&imageList1_, u"ImageList1"_s)->setParent(this);
     Named(&imageList2_, u"ImageList2"_s)->setParent(this);
     ComposeMenus();
-    auto* table = new GreenTable<QWidget>;
+    auto* table = new GreenSurface<QWidget>;
     table->setAccessibleName(u"Game table"_s);
     setCentralWidget(table);
     // Back to front: strike lines under the cells that they join; in the strip, which is crowded in a narrow window,
@@ -106,50 +104,52 @@ void Form1::ComposeCells(QWidget* table) {
 }
 
 void Form1::ComposeReadOuts(QWidget* table) {
-    for (LineControls& line : lines_) {
-        const bool isRow = line.line.kind == BoardLine::Kind::Row;
-        const double step = Design::pitch * (line.line.number - 1);
+    for (LineControls& controls : lines_) {
+        const bool isRow = controls.line.kind == BoardLine::Kind::Row;
+        const double step = Design::pitch * (controls.line.number - 1);
         const QPointF shift = isRow ? QPointF(0, step) : QPointF(step, 0);
-        line.marker = Named(new Picture(table), u"img"_s + Suffix(line.line));
-        line.marker->SetPicture(isRow ? rowArrow_ : columnArrow_, 1);
-        Place(*line.marker, (isRow ? Design::rowMarker : Design::columnMarker).translated(shift));
-        line.marker->hide();
-        line.readOut = NewReadOut(table, u"lbl"_s + Suffix(line.line), TypeSize::Chart, u"55"_s);
-        Place(*line.readOut, (isRow ? Design::rowReadOut : Design::columnReadOut).translated(shift));
-        line.readOut->hide();
+        controls.marker = Named(new Picture(table), u"img"_s + Suffix(controls.line));
+        controls.marker->SetPicture(isRow ? rowArrow_ : columnArrow_, 1);
+        Place(*controls.marker, (isRow ? Design::rowMarker : Design::columnMarker).translated(shift));
+        controls.marker->hide();
+        controls.readOut = NewLabel(table, u"lbl"_s + Suffix(controls.line), TypeSize::Chart, Qt::AlignHCenter);
+        controls.readOut->SetCaption(u"55"_s);
+        Place(*controls.readOut, (isRow ? Design::rowReadOut : Design::columnReadOut).translated(shift));
+        controls.readOut->hide();
     }
-    lblTotal_ = NewReadOut(table, u"lblTotal"_s, TypeSize::Numeral, u"222"_s);
+    lblTotal_ = NewLabel(table, u"lblTotal"_s, TypeSize::Numeral, Qt::AlignHCenter);
+    lblTotal_->SetCaption(u"222"_s);
     Place(*lblTotal_, Design::total);
 }
 
 void Form1::ComposeButtonStrip(QWidget* table) {
+    const auto addButton = [=, this](const QString& name, const QString& spokenName, const PictureList& picture,
+                                     const PictureButton::HotArea& plate, const QRectF& place,
+                                     void (Form1::*handler)()) {
+        auto* button = Named(new PictureButton(table, plate), name);
+        button->SetPicture(picture, 1);
+        button->setAccessibleName(spokenName);
+        Place(*button, place);
+        connect(button, &PictureButton::clicked, this, handler);
+        return button;
+    };
+    const auto addDie = [=, this](const QString& name, const QRectF& place) {
+        auto* die = Named(new Picture(table), name);
+        die->SetPicture(imageList1_, 1);
+        Place(*die, place);
+        die->hide();
+        return die;
+    };
+
     line1_ = Named(new LineShape(table, Design::separator, separatorThickness, Colours::white), u"Line1"_s);
-
-    imgNewGame_ = Named(new PictureButton(table, newGamePlate), u"imgNewGame"_s);
-    imgNewGame_->SetPicture(newGamePicture_, 1);
-    imgNewGame_->setAccessibleName(u"New Game"_s);
-    Place(*imgNewGame_, Design::newGameButton);
-    connect(imgNewGame_, &PictureButton::clicked, this, &Form1::imgNewGame_Click);
-
-    lblRolled_ = Named(new Label(table, LabelFont(TypeSize::Numeral, QFont::Bold), Colours::white, Qt::AlignLeft),
-                       u"lblRolled"_s);
+    imgNewGame_ = addButton(u"imgNewGame"_s, u"New Game"_s, newGamePicture_, newGamePlate, Design::newGameButton,
+                            &Form1::imgNewGame_Click);
+    lblRolled_ = NewLabel(table, u"lblRolled"_s, TypeSize::Numeral, Qt::AlignLeft);
     lblRolled_->SetBackground(Colours::table);
     Place(*lblRolled_, Design::sum);
-
-    image1_ = Named(new PictureButton(table, rollPlate), u"Image1"_s);
-    image1_->SetPicture(rollPicture_, 1);
-    image1_->setAccessibleName(u"Roll Dice"_s);
-    Place(*image1_, Design::rollButton);
-    connect(image1_, &PictureButton::clicked, this, &Form1::Image1_Click);
-
-    imgRolled1_ = Named(new Picture(table), u"imgRolled1"_s);
-    Place(*imgRolled1_, Design::firstDie);
-    imgRolled2_ = Named(new Picture(table), u"imgRolled2"_s);
-    Place(*imgRolled2_, Design::secondDie);
-    for (Picture* die : {imgRolled1_, imgRolled2_}) {
-        die->SetPicture(imageList1_, 1);
-        die->hide();
-    }
+    image1_ = addButton(u"Image1"_s, u"Roll Dice"_s, rollPicture_, rollPlate, Design::rollButton, &Form1::Image1_Click);
+    imgRolled1_ = addDie(u"imgRolled1"_s, Design::firstDie);
+    imgRolled2_ = addDie(u"imgRolled2"_s, Design::secondDie);
 }
 
 void Form1::ComposeStatusBar() {

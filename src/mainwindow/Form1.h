@@ -105,7 +105,7 @@ private:
 
     // mainwindow/: keyboard. The grid, the roll button and the new-game button are one stop of the Tab key each.
     void FollowFocus(); // a screen reader moves the focus without a key
-    void FocusGrid();
+    PictureButton& CurrentCell() const;
     void FocusEmptyCell(); // the current cell, or the next empty one in reading order
 
     // mainwindow/: layout

@@ -54,15 +54,15 @@ void Form1::keyPressEvent(QKeyEvent* event) {
         return;
     }
     // From a button the first key only enters the grid.
-    if (focusWidget() == &Cell(currentCell_.row, currentCell_.column)) {
+    if (focusWidget() == &CurrentCell()) {
         currentCell_ = {row, column};
     }
-    FocusGrid();
+    CurrentCell().setFocus(Qt::OtherFocusReason);
 }
 
 bool Form1::focusNextPrevChild(bool next) {
     FollowFocus();
-    std::array<QWidget*, 3> stops{&Cell(currentCell_.row, currentCell_.column), image1_, imgNewGame_};
+    std::array<QWidget*, 3> stops{&CurrentCell(), image1_, imgNewGame_};
     if (!next) {
         std::reverse(stops.begin(), stops.end());
     }
@@ -84,8 +84,8 @@ void Form1::FollowFocus() {
     }
 }
 
-void Form1::FocusGrid() {
-    Cell(currentCell_.row, currentCell_.column).setFocus(Qt::OtherFocusReason);
+PictureButton& Form1::CurrentCell() const {
+    return Cell(currentCell_.row, currentCell_.column);
 }
 
 void Form1::FocusEmptyCell() {
@@ -96,5 +96,5 @@ void Form1::FocusEmptyCell() {
             currentCell_.row = Wrapped(currentCell_.row, 1);
         }
     }
-    FocusGrid();
+    CurrentCell().setFocus(Qt::OtherFocusReason);
 }

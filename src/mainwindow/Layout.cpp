@@ -54,11 +54,8 @@ struct Form1::Grid {
     double PitchLeft(double steps) const { return Design::cell.left() + steps * columnPitch; }
     double PitchTop(double steps) const { return Design::cell.top() + steps * rowPitch; }
 
-    // The edges of the last column and the last row.
-    double LastLeft() const { return Left(Board::Side); }
-    double LastTop() const { return Top(Board::Side); }
-    double Right() const { return LastLeft() + Design::cell.width(); }
-    double Bottom() const { return LastTop() + Design::cell.height(); }
+    double Right() const { return Left(Board::Side) + Design::cell.width(); }
+    double Bottom() const { return Top(Board::Side) + Design::cell.height(); }
 
     double columnPitch;
     double rowPitch;
@@ -83,8 +80,8 @@ void Form1::LayOut() {
     for (const auto [row, column] : boardCells) {
         MoveTo(Cell(row, column), grid.Left(column), grid.Top(row));
     }
-    for (const LineControls& line : lines_) {
-        line.line.kind == BoardLine::Kind::Row ? LayOutRow(line, grid) : LayOutColumn(line, grid);
+    for (const LineControls& controls : lines_) {
+        controls.line.kind == BoardLine::Kind::Row ? LayOutRow(controls, grid) : LayOutColumn(controls, grid);
     }
     MoveTo(*lblTotal_, grid.PitchLeft(lastPitch) + rowReadOutShift, grid.PitchTop(lastPitch));
     LayOutStrip(outer, grid.Right());
@@ -99,7 +96,7 @@ void Form1::LayOutRow(const LineControls& row, const Grid& grid) {
     // The first row's height is its own.
     const QLineF design = Design::Strike(row.line);
     const double middle = number == 1 ? design.y1() : top + Design::cell.height() / 2;
-    row.strike->SetEnds({grid.LastLeft(), middle, design.x2(), middle});
+    row.strike->SetEnds({grid.Left(Board::Side), middle, design.x2(), middle});
 }
 
 void Form1::LayOutColumn(const LineControls& column, const Grid& grid) {
@@ -112,7 +109,7 @@ void Form1::LayOutColumn(const LineControls& column, const Grid& grid) {
     const double markerLeft = isFirst ? left : middle - Design::columnMarker.width() / 2;
     MoveTo(*column.readOut, left, grid.PitchTop(lastPitch) + columnReadOutDrop);
     MoveTo(*column.marker, markerLeft, grid.Bottom() - markerOverlap);
-    column.strike->SetEnds({middle, grid.LastTop(), middle, design.y2()});
+    column.strike->SetEnds({middle, grid.Top(Board::Side), middle, design.y2()});
 }
 
 void Form1::LayOutStrip(const QSizeF& outer, double gridRight) {

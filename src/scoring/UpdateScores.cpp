@@ -13,15 +13,15 @@
 
 void Form1::UpdateScores() {
     std::int16_t total = 0;
-    for (const LineControls& line : lines_) {
-        const auto score = ScoreLine(line.line, board_);
+    for (const LineControls& controls : lines_) {
+        const auto score = ScoreLine(controls.line, board_);
         if (score) {
-            line.readOut->SetCaption(QString::number(*score));
-            line.readOut->setAccessibleName(SpokenNames::Line(line.line, *score));
+            controls.readOut->SetCaption(QString::number(*score));
+            controls.readOut->setAccessibleName(SpokenNames::Line(controls.line, *score));
         }
-        line.readOut->setVisible(score.has_value());
-        line.marker->setVisible(score.has_value());
-        line.strike->setVisible(score.has_value());
+        controls.readOut->setVisible(score.has_value());
+        controls.marker->setVisible(score.has_value());
+        controls.strike->setVisible(score.has_value());
         total = CheckedAdd(total, score.value_or(0));
     }
     lblTotal_->SetCaption(QString::number(total));

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "controls/AccessibleTable.h"
+#include "controls/Accessibility.h"
 
-#include "controls/GreenTable.h"
+#include "controls/GreenSurface.h"
 #include "controls/Picture.h"
 
 #include <QAccessibleWidget>
@@ -22,7 +22,7 @@ bool HasSomethingToSay(const QWidget& control) {
                || qobject_cast<const QPushButton*>(&control) != nullptr);
 }
 
-class AccessibleTable final : public QAccessibleWidget {
+class AccessibleSurface final : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
 
@@ -71,11 +71,11 @@ private:
 };
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
-    if (auto* dialog = dynamic_cast<GreenTable<QDialog>*>(object)) {
-        return new AccessibleTable(dialog, QAccessible::Dialog, dialog->windowTitle());
+    if (auto* dialog = dynamic_cast<GreenSurface<QDialog>*>(object)) {
+        return new AccessibleSurface(dialog, QAccessible::Dialog, dialog->windowTitle());
     }
-    if (auto* table = dynamic_cast<GreenTable<QWidget>*>(object)) {
-        return new AccessibleTable(table, QAccessible::Grouping);
+    if (auto* surface = dynamic_cast<GreenSurface<QWidget>*>(object)) {
+        return new AccessibleSurface(surface, QAccessible::Grouping);
     }
     if (auto* picture = dynamic_cast<Picture*>(object)) {
         return new QAccessibleWidget(picture, QAccessible::Graphic);
@@ -85,6 +85,6 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
 
 } // namespace
 
-void InstallAccessibleTables() {
+void InstallAccessibility() {
     QAccessible::installFactory(MakeInterface);
 }

@@ -10,7 +10,7 @@
 
 // A widget painted with the table's green. Its palette stays the theme's, so that push buttons on it look as
 // they do everywhere else.
-template <typename Base> class GreenTable : public Base {
+template <typename Base> class GreenSurface : public Base {
 public:
     using Base::Base;
 

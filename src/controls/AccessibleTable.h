@@ -1,9 +1,0 @@
-// SPDX-FileCopyrightText: 2026 the Kelvaro developers
-// SPDX-License-Identifier: MIT
-
-#pragma once
-
-// Makes green tables speak: of its children a table lists those that are shown and have something to say, so that
-// neither hidden controls nor strike lines and arrows are found, from the top down, push buttons last. Tables have the
-// role of a grouping or a dialog, pictures that of a graphic. Call once, before the first window is made.
-void InstallAccessibleTables();
