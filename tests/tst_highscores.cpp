@@ -233,7 +233,7 @@ private slots:
         setrlimit(RLIMIT_FSIZE, &before);
         QCOMPARE(TableText(Reloaded(name)), "50  a|40  b|30  c|20  d|10  e");
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("KVR.ini"));
-        ResetStoredScores(store);
+        HighScoreTable().Save(store);
         QCOMPARE(TableText(Reloaded(name)), "0  |0  |0  |0  |0  ");
     }
 

@@ -31,7 +31,7 @@ frmAbout::frmAbout()
     auto* okButton = AddButton(u"cmdOK"_s, u"OK"_s, {216, 128, 84, 23});
     addText(u"lblDisclaimer"_s, {8, 128, 258, 23}, u"Copyright © 2026 the Kelvaro developers"_s);
     AddLabel({u"lblTitle"_s, {88, 8, 259, 32}, Colours::white, TypeSize::Heading, QFont::Normal, u"Kelvaro"_s});
-    addText(u"lblVersion"_s, {88, 32, 259, 15}, QLatin1String("Version " KELVARO_VERSION));
+    addText(u"lblVersion"_s, {88, 32, 259, 15}, u"Version "_s + QLatin1String(KELVARO_VERSION));
     addText(u"Label1"_s, {88, 56, 265, 33}, u"Support: the Kelvaro issue tracker"_s);
     FitLabels();
 

@@ -26,15 +26,14 @@ constexpr std::array<QRect, 8> chartPlaces{{
 }};
 constexpr int firstChartLabel = 4;
 
-const QString playText = QStringLiteral("Kelvaro is played on a five by five grid. On each turn, you roll "
-                                        "the dice by clicking on \"Roll\", then place "
-                                        "the roll in any available spot on the grid by clicking that spot.");
+constexpr QLatin1String playText =
+    "Kelvaro is played on a five by five grid. On each turn, you roll the dice by clicking on \"Roll\", then place the "
+    "roll in any available spot on the grid by clicking that spot."_L1;
 
-const QString objectText = QStringLiteral("The object is to create the best possible dice poker hand on each "
-                                          "column and row. The round's score is the sum "
-                                          "of the scores from each column and row when all spots are filled. "
-                                          "Scoring is calculated according to the "
-                                          "following chart:");
+constexpr QLatin1String objectText =
+    "The object is to create the best possible dice poker hand on each column and row. The round's score is the sum of "
+    "the scores from each column and row when all spots are filled. Scoring is calculated according to the following "
+    "chart:"_L1;
 
 } // namespace
 

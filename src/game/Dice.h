@@ -3,14 +3,7 @@
 
 #pragma once
 
-#include "game/RollValue.h"
-
-#include <QString>
-
 #include <cstdint>
 
 // The throw of a six-sided die, 1..6, that a uniform number in [0, 1) stands for.
 std::int16_t RollDie(double uniform);
-
-// What the window shows beside the dice: "= 7" for a sum of 7.
-QString RolledCaption(RollValue sum);

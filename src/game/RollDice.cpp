@@ -44,7 +44,7 @@ void Form1::RollDice() {
     Pause();
     imgRolled2_->show();
     Pause();
-    ShowSum(RolledCaption(pendingRoll_));
+    ShowSum(u"= %1"_s.arg(pendingRoll_));
     SetPrompt(Prompts::select);
 }
 

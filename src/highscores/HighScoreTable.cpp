@@ -63,7 +63,3 @@ void HighScoreTable::Save(const SettingsStore& store) const {
     }
     store.Write(texts);
 }
-
-void ResetStoredScores(const SettingsStore& store) {
-    HighScoreTable().Save(store);
-}

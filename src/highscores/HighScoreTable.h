@@ -44,6 +44,3 @@ public:
 private:
     std::array<HighScoreEntry, Ranks> entries_;
 };
-
-// Empties the stored table, whatever a table in memory holds.
-void ResetStoredScores(const SettingsStore& store);

@@ -17,14 +17,13 @@ frmHighScores::frmHighScores(const HighScoreTable& table, const SettingsStore& s
     connect(okButton, &QPushButton::clicked, this, &frmHighScores::OKButton_Click);
     connect(cancelButton, &QPushButton::clicked, this, &frmHighScores::CancelButton_Click);
 
-    for (std::int16_t rank = 1; rank <= HighScoreTable::Ranks; rank = CheckedAdd(rank, 1)) {
+    std::int16_t rank = 1;
+    for (Label*& label : lblHighScore_) {
         const int index = rank - 1;
-        lblHighScore_[static_cast<std::size_t>(index)] = AddLabel({u"lblHighScore(%1)"_s.arg(index),
-                                                                   {8, 8 + 24 * index, 281, 25},
-                                                                   Colours::white,
-                                                                   TypeSize::Chart,
-                                                                   QFont::Bold,
-                                                                   table.Caption(rank)});
+        const QRect place(8, 8 + 24 * index, 281, 25);
+        label = AddLabel({u"lblHighScore(%1)"_s.arg(index), place, Colours::white, TypeSize::Chart, QFont::Bold,
+                          table.Caption(rank)});
+        rank = CheckedAdd(rank, 1);
     }
     FitLabels();
 }
@@ -34,7 +33,7 @@ void frmHighScores::OKButton_Click() {
 }
 
 void frmHighScores::CancelButton_Click() {
-    ResetStoredScores(store_);
+    HighScoreTable().Save(store_); // the window's own table stays
     for (Label* label : lblHighScore_) {
         label->SetCaption(u"0"_s);
     }

@@ -3,11 +3,13 @@
 
 #pragma once
 
-#include <QLatin1String>
+#include <QString>
 
 // Everything the status bar ever says.
 namespace Prompts {
-inline constexpr QLatin1String roll("Roll The Dice");
-inline constexpr QLatin1String select("Select A Location for the Roll on the Grid");
-inline constexpr QLatin1String over("Game Over!");
+using namespace Qt::StringLiterals;
+
+inline constexpr QLatin1String roll = "Roll The Dice"_L1;
+inline constexpr QLatin1String select = "Select A Location for the Roll on the Grid"_L1;
+inline constexpr QLatin1String over = "Game Over!"_L1;
 } // namespace Prompts

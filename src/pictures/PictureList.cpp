@@ -7,31 +7,18 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString FileName(const QString& name, const QString& suffix) {
-    return u":/pictures/"_s + name + u'.' + suffix;
-}
-
-QString LargeFileName(const QString& name) {
-    return FileName(u"large/"_s + name, u"png"_s);
-}
-
-bool Covers(const QSize& larger, const QSize& smaller) {
-    return larger.expandedTo(smaller) == larger;
-}
-
-} // namespace
-
 PictureList::PictureList(const QString& stem, const QString& suffix, std::int16_t count) {
     for (std::int16_t index = 1; index <= count; index = CheckedAdd(index, 1)) {
-        const QString name = stem + QString::number(index);
-        entries_.push_back({FileName(name, suffix), LargeFileName(name), {}, {}});
+        Add(stem + QString::number(index), suffix);
     }
 }
 
-PictureList::PictureList(const QString& name, const QString& suffix)
-    : entries_{{FileName(name, suffix), LargeFileName(name), {}, {}}} {
+PictureList::PictureList(const QString& name, const QString& suffix) {
+    Add(name, suffix);
+}
+
+void PictureList::Add(const QString& name, const QString& suffix) {
+    entries_.push_back({u":/pictures/%1.%2"_s.arg(name, suffix), u":/pictures/large/%1.png"_s.arg(name), {}, {}});
 }
 
 const QImage& PictureList::Image(std::int16_t index) const {
@@ -46,7 +33,7 @@ QPixmap PictureList::Rendering(std::int16_t index, const QSize& size) const {
     QPixmap& rendering = At(index).renderings[size];
     if (rendering.isNull()) {
         const QImage& own = Image(index);
-        const QImage source = Covers(own.size(), size) ? own : QImage(At(index).largeFileName);
+        const QImage source = own.size().expandedTo(size) == own.size() ? own : QImage(At(index).largeFileName);
         rendering = QPixmap::fromImage(
             source.size() == size ? source : source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }

@@ -42,6 +42,7 @@ private:
         mutable QHash<QSize, QPixmap> renderings;
     };
 
+    void Add(const QString& name, const QString& suffix);
     const Entry& At(std::int16_t index) const;
 
     std::vector<Entry> entries_;

@@ -105,13 +105,13 @@ IniMap ParseIni(const QString& text) {
 QString ComposeIni(const IniMap& map) {
     QString text;
     std::optional<QString> openSection;
-    for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
-        const auto& [section, key] = entry.key();
+    for (const auto& [place, value] : map.asKeyValueRange()) {
+        const auto& [section, key] = place;
         if (openSection != section) {
             openSection = section;
             text += u'[' + section + u"]\n"_s;
         }
-        text += key + u'=' + ComposeValue(entry.value()) + u'\n';
+        text += key + u'=' + ComposeValue(value) + u'\n';
     }
     return text;
 }

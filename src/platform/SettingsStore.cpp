@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QLatin1String section("HighScores");
+constexpr QLatin1String section = "HighScores"_L1;
 
 // In bytes, far above anything the game writes: a hostile file must not fill the memory or the time.
 constexpr qint64 largestFile = 1024 * 1024;
@@ -74,9 +74,9 @@ std::optional<SettingsMap> SettingsStore::Read() const {
         return std::nullopt;
     }
     SettingsMap texts;
-    for (auto entry = file->constBegin(); entry != file->constEnd(); ++entry) {
-        if (entry.key().first == section) {
-            texts.insert(entry.key().second, entry.value());
+    for (const auto& [place, text] : file->asKeyValueRange()) {
+        if (place.first == section) {
+            texts.insert(place.second, text);
         }
     }
     return texts;
@@ -87,8 +87,8 @@ void SettingsStore::Write(const SettingsMap& texts) const {
     if (!merged) {
         return;
     }
-    for (auto entry = texts.constBegin(); entry != texts.constEnd(); ++entry) {
-        merged->insert({section, entry.key()}, entry.value());
+    for (const auto& [key, text] : texts.asKeyValueRange()) {
+        merged->insert({section, key}, text);
     }
     const QByteArray bytes = ComposeIni(*merged).toUtf8();
     if (bytes.size() > largestFile) {

@@ -15,8 +15,6 @@ struct BoardLine {
 
     Kind kind;
     std::int16_t number; // 1..5
-
-    std::array<RollValue, Board::Side> Cells(const Board& board) const;
 };
 
 // Rows 1 to 5, then columns 1 to 5: the order in which they are scored.

@@ -13,10 +13,6 @@ namespace {
 constexpr RollValue lowestSum = 2;
 constexpr RollValue highestSum = 12;
 
-bool Contains(const Hand& hand, RollValue value) {
-    return std::ranges::find(hand, value) != hand.end();
-}
-
 std::int16_t CountValue(RollValue value, const Hand& hand) {
     return ToInt16(std::ranges::count(hand, value));
 }
@@ -36,7 +32,7 @@ std::int16_t SumsOccurring(std::int16_t count, const Hand& hand) {
 bool RunsFrom(RollValue start, std::int16_t direction, int steps, const Hand& hand) {
     for (RollValue next = start; steps > 0; --steps) {
         next = CheckedAdd(next, direction);
-        if (!Contains(hand, next)) {
+        if (CountValue(next, hand) == 0) {
             return false;
         }
     }
