@@ -22,15 +22,20 @@ void Form1::showEvent(QShowEvent* event) {
 }
 
 bool Form1::eventFilter(QObject* watched, QEvent* event) {
-    // The window manager announces no change of its frame; it is settled when the window can be seen.
+    // The first frame is settled when the window can be seen.
     if (watched == windowHandle() && event->type() == QEvent::Expose && windowHandle()->isExposed()) {
-        if (!isFrameKnown_) {
-            OnFrameKnown();
-        } else if (windowHandle()->frameMargins() != frame_) {
-            OnFrameChanged();
-        }
+        isFrameKnown_ ? FollowFrame() : OnFrameKnown();
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+bool Form1::nativeEvent(const QByteArray& kind, void* message, qintptr* result) {
+    // Under X11 a change of the frame is a change of one of the window's properties, which Qt takes up without an event.
+    constexpr quint8 propertyNotify = 28;
+    if (kind == "xcb_generic_event_t" && (*static_cast<const quint8*>(message) & 0x7f) == propertyNotify) {
+        QMetaObject::invokeMethod(this, &Form1::FollowFrame, Qt::QueuedConnection);
+    }
+    return QMainWindow::nativeEvent(kind, message, result);
 }
 
 void Form1::resizeEvent(QResizeEvent* event) {

@@ -44,6 +44,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool nativeEvent(const QByteArray& kind, void* message, qintptr* result) override;
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -115,7 +116,7 @@ private:
     static void LayOutColumn(const LineControls& column, const Grid& grid);
     void LayOutStrip(const QSizeF& outer, double gridRight);
     void OnFrameKnown();
-    void OnFrameChanged();
+    void FollowFrame();
     QSize OuterSize() const;
 
     RollValue pendingRoll_ = 0;

@@ -138,10 +138,12 @@ void Form1::OnFrameKnown() {
     windowHandle()->setFramePosition(centred.topLeft());
 }
 
-void Form1::OnFrameChanged() {
+void Form1::FollowFrame() {
     // Without the floor: a window manager that maximises a window changes its frame first and its size a moment later.
-    frame_ = windowHandle()->frameMargins();
-    LayOut();
+    if (isFrameKnown_ && windowHandle()->frameMargins() != frame_) {
+        frame_ = windowHandle()->frameMargins();
+        LayOut();
+    }
 }
 
 QSize Form1::OuterSize() const {
