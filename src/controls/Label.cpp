@@ -89,7 +89,7 @@ bool Label::Fits(const QFont& font) const {
     const int wrapping = 2 * QFontMetrics(font_).lineSpacing() <= room.height() ? Qt::TextWordWrap : 0;
     const QFontMetrics metrics(font);
     const QString measured = text().left(mostCharacters);
-    const QRect needed = metrics.boundingRect(QRect(QPoint(), room), wrapping, measured);
+    const QRect needed = metrics.boundingRect(0, 0, width(), room.height(), wrapping, measured);
     // Below the last line's baseline only what is drawn counts: numerals need no room there.
     const int drawnDescent = qMax(0, metrics.tightBoundingRect(measured).bottom() + 1);
     const int height = needed.height() - metrics.descent() + qMin(drawnDescent, metrics.descent());
