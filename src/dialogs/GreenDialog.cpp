@@ -47,8 +47,8 @@ GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSiz
 }
 
 void GreenDialog::ShowModal(const QWidget& window) {
-    // Before there is a native window, whose client area later moves would place. The dialog's frame is going to be like
-    // the window's.
+    // Before there is a native window, whose client area later moves would place. The dialog's frame is going to be
+    // like the window's.
     const QSize outer = size().grownBy(window.windowHandle()->frameMargins());
     move(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, outer, window.screen()->geometry()).topLeft());
     winId();
