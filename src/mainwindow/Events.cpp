@@ -30,7 +30,8 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool Form1::nativeEvent(const QByteArray& kind, void* message, qintptr* result) {
-    // Under X11 a change of the frame is a change of one of the window's properties, which Qt takes up without an event.
+    // Under X11 a change of the frame is a change of one of the window's properties, which Qt takes up without an
+    // event.
     constexpr quint8 propertyNotify = 28;
     if (kind == "xcb_generic_event_t" && (*static_cast<const quint8*>(message) & 0x7f) == propertyNotify) {
         QMetaObject::invokeMethod(this, &Form1::FollowFrame, Qt::QueuedConnection);
