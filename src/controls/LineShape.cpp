@@ -26,5 +26,5 @@ void LineShape::SetEnds(const QLineF& ends) {
 }
 
 void LineShape::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), colour_);
+    QPainter(this).fillRect(rect(), colour_.isValid() ? colour_ : palette().color(QPalette::WindowText));
 }

@@ -10,8 +10,8 @@
 // A straight line, horizontal or vertical, between two points in twips. Clicks go through it.
 class LineShape final : public QWidget {
 public:
-    // `thickness` is in pixels.
-    LineShape(QWidget* parent, const QLineF& ends, int thickness, const QColor& colour);
+    // `thickness` is in pixels. Without a colour it is the theme's for text.
+    LineShape(QWidget* parent, const QLineF& ends, int thickness, const QColor& colour = {});
 
     void SetEnds(const QLineF& ends);
 

@@ -84,7 +84,7 @@ void Form1::ComposeMenus() {
 
 void Form1::ComposeStrikeLines(QWidget* table) {
     for (const BoardLine& line : boardLines) {
-        auto* strike = new LineShape(table, Design::Strike(line), strikeThickness, Colours::black);
+        auto* strike = new LineShape(table, Design::Strike(line), strikeThickness);
         strike->hide();
         lines_.push_back({.line = line, .strike = Named(strike, u"lin"_s + Suffix(line))});
     }
