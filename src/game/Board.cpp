@@ -24,5 +24,5 @@ void Board::Clear() {
 }
 
 bool Board::IsFull() const {
-    return std::ranges::find(cells_, RollValue{0}) == cells_.end();
+    return std::ranges::count(cells_, RollValue{0}) == 0;
 }

@@ -22,7 +22,8 @@ frmHighScores::frmHighScores(const HighScoreTable& table, const SettingsStore& s
         const int index = rank - 1;
         const QRect place(8, 8 + 24 * index, 281, 25);
         label = AddLabel({u"lblHighScore(%1)"_s.arg(index), place, Colours::white, TypeSize::Chart, QFont::Bold,
-                          table.Caption(rank)});
+                          u"999  Anonymous"_s}); // as designed; it never shows
+        label->SetCaption(table.Caption(rank));
         rank = CheckedAdd(rank, 1);
     }
     FitLabels();
