@@ -127,7 +127,11 @@ private slots:
             }
             QVERIFY(chartSizes.size() <= 1);
             QVERIFY(dialog.maximumSize() == dialog.minimumSize() && dialog.parentWidget() == nullptr);
-            QVERIFY(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+            QVERIFY(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint) && !dialog.windowIcon().isNull());
+            for (const auto* button : dialog.findChildren<QPushButton*>()) {
+                QCOMPARE(button->isDefault(), dialog.objectName() == "frmAbout");
+                QVERIFY(button->fontMetrics().horizontalAdvance(button->text()) < button->width() - 8);
+            }
             QCOMPARE(dialog.windowHandle()->transientParent(), player.Window().windowHandle());
             QVERIFY(IsCentred(dialog.frameGeometry(), *dialog.screen()));
             const QImage picture = dialog.grab().toImage();

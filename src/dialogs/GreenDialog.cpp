@@ -36,6 +36,22 @@ QSize RoomWithin(const QRect& place, const QWidget& control, const QWidget& dial
     return room.size();
 }
 
+// Makes the caption smaller until the button holds it: its size is fixed, the desktop's font is not.
+void FitCaption(QPushButton& button) {
+    constexpr QMargins edge(5, 3, 5, 3);
+    constexpr int smallest = 6;
+    QFont font = button.font();
+    font.setPixelSize(button.fontInfo().pixelSize());
+    const auto fits = [&] {
+        const QSize needed = QFontMetrics(font).size(Qt::TextSingleLine, button.text()).grownBy(edge);
+        return needed.expandedTo(button.size()) == button.size();
+    };
+    while (!fits() && font.pixelSize() > smallest) {
+        font.setPixelSize(font.pixelSize() - 1);
+        button.setFont(font);
+    }
+}
+
 } // namespace
 
 GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSize& clientSize) {
@@ -51,6 +67,7 @@ void GreenDialog::ShowModal(const QWidget& window) {
     // like the window's.
     const QSize outer = size().grownBy(window.windowHandle()->frameMargins());
     move(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, outer, window.screen()->geometry()).topLeft());
+    setWindowIcon(window.windowIcon());
     winId();
     windowHandle()->setTransientParent(window.windowHandle());
     exec();
@@ -68,6 +85,8 @@ QPushButton* GreenDialog::AddButton(const QString& name, const QString& caption,
     auto* button = new QPushButton(caption, this);
     button->setObjectName(name);
     button->setGeometry(place);
+    button->setAutoDefault(false); // the dialog would make a default button of it
+    FitCaption(*button);
     return button;
 }
 
@@ -92,7 +111,10 @@ void GreenDialog::Unload() {
 }
 
 void GreenDialog::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (auto* button = qobject_cast<QPushButton*>(focusWidget()); isEnter && button != nullptr) {
+        button->click();
+    } else if (event->key() != Qt::Key_Escape) {
         QDialog::keyPressEvent(event);
     } else if (cancelButton_ != nullptr) {
         cancelButton_->click();

@@ -19,7 +19,7 @@ class QPushButton;
 // pixels at 96 dots per inch, shown modally in the middle of the screen. A dialog is made for each showing
 // and unloaded with it.
 //
-// Escape closes a dialog only through its cancel button.
+// Escape closes a dialog only through its cancel button, and Enter presses the button that has the focus.
 class GreenDialog : public GreenSurface<QDialog> {
 public:
     // Shows the dialog and returns when it is closed. It stays above `window` but has no owner.
