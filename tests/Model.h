@@ -170,10 +170,14 @@ private:
         pending_ = dice_[0] + dice_[1];
         for (const int die : {0, 1}) {
             isDieShown_[die] = true;
-            passes_ = die * pause + 1;
-            InPause(die + 1);
+            passes_ = underWay_ < 64 ? die * pause + 1 : 0;
+            if (underWay_ < 64) {
+                ++underWay_;
+                InPause(die + 1);
+                --underWay_;
+            }
         }
-        passes_ = 2 * pause;
+        passes_ = underWay_ < 64 ? 2 * pause : 0;
         sum_ = QString("= %1").arg(pending_);
         prompt_ = "Select A Location for the Roll on the Grid";
     }
@@ -304,7 +308,7 @@ private:
     Sums board_;
     QList<int> faces_;
     QList<bool> isDieShown_;
-    int pending_ = 0, current_ = 0, button_ = 0;
+    int pending_ = 0, current_ = 0, button_ = 0, underWay_ = 0;
     QString prompt_, sum_, open_, focus_, store_;
     QSize outer_;
     Table table_;

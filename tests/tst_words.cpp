@@ -48,6 +48,8 @@ private slots:
             << "5+6 Image1 1:img3_3 img3_4 Image1 img3_4 Ctrl+R 2:Return 2:img3_4 mnuGameRoll img3_4";
         QTest::newRow("rolls within rolls")
             << "Space 1:Space 3+4 1:Space 1:Space 6+6 1:Space 2:Space 1:Space 2:Ctrl+R 2:Space Return";
+        QTest::newRow("so many rolls within rolls that the last do not pause")
+            << "copy:600 again Space " + Times(3, Times(51, "1:Space")) + Times(9, "2:Space") + "1:Space 2:F1";
         QTest::newRow("the end inside a pause")
             << Times(24, "Space Return") + "Image1 1:Return 1:Escape 1:OKButton 1:Image1 Ctrl+R Ctrl+Q Return";
         QTest::newRow("a new game inside a pause")

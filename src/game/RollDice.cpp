@@ -12,6 +12,13 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// A roll begun inside a pause goes one level deeper into the stack, which is not endless.
+constexpr int mostPausesUnderWay = 64;
+
+} // namespace
+
 void Form1::Image1_Click() {
     RollDice();
 }
@@ -50,9 +57,14 @@ void Form1::RollDice() {
 
 // A count of passes on purpose, not a time.
 void Form1::Pause() {
+    if (pausesUnderWay_ == mostPausesUnderWay) {
+        return;
+    }
+    ++pausesUnderWay_;
     for (std::int16_t outer = 1; outer <= 1000; outer = CheckedAdd(outer, 1)) {
         for (std::int16_t inner = 1; inner <= 250; inner = CheckedAdd(inner, 1)) {
             platform_.pumpEvents();
         }
     }
+    --pausesUnderWay_;
 }

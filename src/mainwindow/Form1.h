@@ -124,6 +124,7 @@ private:
     HighScoreTable highScores_;
 
     Platform platform_;
+    int pausesUnderWay_ = 0;
     bool isLoaded_ = false;
     bool isFrameKnown_ = false;
     QMargins frame_;
