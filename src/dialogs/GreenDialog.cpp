@@ -4,11 +4,10 @@
 #include "dialogs/GreenDialog.h"
 
 #include "controls/Label.h"
+#include "controls/ScreenPlace.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
-#include <QStyle>
 #include <QWindow>
 
 #include <algorithm>
@@ -66,7 +65,7 @@ void GreenDialog::ShowModal(const QWidget& window) {
     // Before there is a native window, whose client area later moves would place. The dialog's frame is going to be
     // like the window's.
     const QSize outer = size().grownBy(window.windowHandle()->frameMargins());
-    move(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, outer, window.screen()->geometry()).topLeft());
+    move(ScreenPlace(outer, *window.screen()));
     setWindowIcon(window.windowIcon());
     winId();
     windowHandle()->setTransientParent(window.windowHandle());

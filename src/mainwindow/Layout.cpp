@@ -4,12 +4,11 @@
 #include "controls/Label.h"
 #include "controls/LineShape.h"
 #include "controls/Picture.h"
+#include "controls/ScreenPlace.h"
 #include "controls/Twips.h"
 #include "mainwindow/Design.h"
 #include "mainwindow/Form1.h"
 
-#include <QScreen>
-#include <QStyle>
 #include <QWindow>
 
 #include <array>
@@ -134,8 +133,7 @@ void Form1::OnFrameKnown() {
     // Telling the window manager as well spares the player the flicker of a window that snaps back.
     windowHandle()->setMinimumSize(smallestOuterSize.shrunkBy(frame_));
     Form_Resize();
-    const QRect centred = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, OuterSize(), screen()->geometry());
-    windowHandle()->setFramePosition(centred.topLeft());
+    windowHandle()->setFramePosition(ScreenPlace(OuterSize(), *screen()));
 }
 
 void Form1::FollowFrame() {
