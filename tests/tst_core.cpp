@@ -14,6 +14,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <pwd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -28,6 +29,14 @@ extern "C" int fsync(int file) {
     ++syncs;
     errno = EIO;
     return canSync ? static_cast<int>(syscall(SYS_fsync, file)) : -1;
+}
+
+static QByteArray passwordFileHome;
+
+extern "C" passwd* getpwuid(uid_t) {
+    static passwd user{};
+    user.pw_dir = passwordFileHome.data();
+    return &user;
 }
 
 // What works behind the window: hands, dice, the machine, and the store with its texts.
@@ -76,14 +85,32 @@ private slots:
 
     void machine() {
         qputenv("TZ", "Nowhere-5:45");
-        qputenv("XDG_CONFIG_HOME", folder_->path().toUtf8());
         const Platform machine = SystemPlatform();
         const QDateTime before = QDateTime::currentDateTime();
         const QDateTime read({machine.year(), machine.month(), machine.day()},
                              {machine.hour(), machine.minute(), machine.second()});
         QVERIFY(before.addSecs(-1) <= read && read <= QDateTime::currentDateTime() && before.offsetFromUtc() == 20'700);
-        machine.store.Write({{"Score1", "7"}});
-        QCOMPARE(Bytes("Kelvaro/KVR.ini"), "[HighScores]\nScore1=7\n");
+    }
+
+    // A folder that is not absolute counts as none. What is made is its owner's, what was there keeps its mode.
+    void whereTheScoresAre() {
+        const QString home = folder_->path();
+        passwordFileHome = home.toUtf8() + "/own";
+        umask(0);
+        for (const auto& [moved, homeSet, place] : QList<std::tuple<QString, QString, QString>>{
+                 {home + "/a/b", "here", "a/b"}, {"here", home, ".config"}, {"", "here", "own/.config"}}) {
+            qputenv("XDG_CONFIG_HOME", moved.toUtf8());
+            qputenv("HOME", homeSet.toUtf8());
+            const QString name = place + "/Kelvaro/KVR.ini";
+            SystemPlatform().store.Write({{"Score1", "7"}});
+            QCOMPARE(Bytes(name), "[HighScores]\nScore1=7\n");
+            QVERIFY(Mode(place) == 0x7700 && Mode(name) == 0x6600);
+            chmod(qPrintable(folder_->filePath(name)), 0640);
+            umask(0777);
+            SystemPlatform().store.Write({{"Score1", "8"}});
+            QCOMPARE(Mode(name), 0x6640);
+        }
+        umask(022);
     }
 
     // Whatever characters a text is made of, it comes back.
@@ -171,6 +198,8 @@ private slots:
     }
 
 private:
+    int Mode(const QString& name) { return QFile::permissions(folder_->filePath(name)); }
+
     QByteArray Bytes(const QString& name) {
         QFile file(folder_->filePath(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

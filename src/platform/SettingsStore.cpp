@@ -46,6 +46,26 @@ std::optional<IniMap> ReadFile(const QString& fileName) {
     return ParseIni(QString::fromUtf8(bytes));
 }
 
+constexpr auto ownersFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+constexpr auto ownersFolder = ownersFile | QFileDevice::ExeOwner;
+
+// Makes what is missing of the folder's path.
+void MakeFolder(const QString& path) {
+    if (QFileInfo::exists(path)) {
+        return;
+    }
+    MakeFolder(QFileInfo(path).path());
+    if (QDir().mkdir(path, ownersFolder)) {
+        QFile::setPermissions(path, ownersFolder); // the process's mask may have taken from it
+    }
+}
+
+// Opens the file that is to take the name: with the mode of the one that has it, or for its owner alone.
+bool Open(QSaveFile& file) {
+    const bool isNew = !QFileInfo::exists(file.fileName());
+    return file.open(QIODevice::WriteOnly) && (!isNew || file.setPermissions(ownersFile));
+}
+
 // Whether what was written is on disk. Some failures, a full disk among them, are told only here.
 bool Sync(QSaveFile& file) {
 #ifdef Q_OS_UNIX
@@ -94,11 +114,10 @@ void SettingsStore::Write(const SettingsMap& texts) const {
     if (bytes.size() > largestFile) {
         return;
     }
-    QDir().mkpath(QFileInfo(fileName_).path());
+    MakeFolder(QFileInfo(fileName_).path());
     QSaveFile file(fileName_);
     // Flushed and synced first: the commit alone would put a file that lacks bytes in the old one's place.
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && Sync(file)
-        && file.commit()) {
+    if (Open(file) && file.write(bytes) == bytes.size() && file.flush() && Sync(file) && file.commit()) {
         const QFileInfo folder(QFileInfo(fileName_).canonicalPath());
         SyncFolder(folder.filePath());
         SyncFolder(folder.path()); // the folder may be new too

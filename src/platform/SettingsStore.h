@@ -29,7 +29,8 @@ public:
     std::optional<SettingsMap> Read() const;
 
     // Writes the texts, all or none: whoever reads the file, or cuts the power, finds all of them or what was there
-    // before. They are on disk when the call returns. Other keys and sections stay as they are in the file.
+    // before. They are on disk when the call returns. Other keys and sections stay as they are in the file, and so does
+    // its mode; what folders are missing are made, and they and a new file are for their owner alone.
     void Write(const SettingsMap& texts) const;
 
 private:
