@@ -42,7 +42,7 @@ bool Form1::nativeEvent(const QByteArray& kind, void* message, qintptr* result) 
 void Form1::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     if (isFrameKnown_) {
-        frame_ = windowHandle()->frameMargins();
+        FollowFrame();
         Form_Resize();
     }
 }

@@ -118,6 +118,7 @@ private:
     void OnFrameKnown();
     void FollowFrame();
     QSize OuterSize() const;
+    QSize AtFloor(const QSize& client) const; // the client area, enlarged where the window would be too small
 
     RollValue pendingRoll_ = 0;
     Board board_;
@@ -128,6 +129,7 @@ private:
     bool isLoaded_ = false;
     bool isFrameKnown_ = false;
     QMargins frame_;
+    QSize tooSmall_;           // the client area that was last enlarged
     CellPosition currentCell_; // where the keyboard is in the grid
 
     PictureList imageList1_;

@@ -64,13 +64,16 @@ void Form1::Form_Resize() {
     if (isMinimized()) {
         return;
     }
-    const QSize outer = OuterSize();
-    const QSize allowed = outer.expandedTo(smallestOuterSize);
-    if (outer != allowed) {
-        resize(allowed.shrunkBy(frame_)); // raises the event again
-    } else {
+    if (size() == AtFloor(size())) {
         LayOut();
+    } else {
+        tooSmall_ = size();
+        resize(AtFloor(size())); // raises the event again
     }
+}
+
+QSize Form1::AtFloor(const QSize& client) const {
+    return client.expandedTo(smallestOuterSize.shrunkBy(frame_));
 }
 
 void Form1::LayOut() {
@@ -130,18 +133,26 @@ void Form1::LayOutStrip(const QSizeF& outer, double gridRight) {
 void Form1::OnFrameKnown() {
     isFrameKnown_ = true;
     frame_ = windowHandle()->frameMargins();
-    // Telling the window manager as well spares the player the flicker of a window that snaps back.
-    windowHandle()->setMinimumSize(smallestOuterSize.shrunkBy(frame_));
     Form_Resize();
+    // Telling the window manager as well spares the player the flicker of a window that snaps back.
+    windowHandle()->setMinimumSize(AtFloor(QSize()));
     windowHandle()->setFramePosition(ScreenPlace(OuterSize(), *screen()));
 }
 
+// A frame may come late, go in full screen, and come back after the size that belongs to it.
 void Form1::FollowFrame() {
-    // Without the floor: a window manager that maximises a window changes its frame first and its size a moment later.
-    if (isFrameKnown_ && windowHandle()->frameMargins() != frame_) {
-        frame_ = windowHandle()->frameMargins();
-        LayOut();
+    if (!isFrameKnown_ || windowHandle()->frameMargins() == frame_) {
+        return;
     }
+    const bool isEnlarged = size() == AtFloor(tooSmall_);
+    frame_ = windowHandle()->frameMargins();
+    // Only ever less: a window manager that maximises a window takes its frame first and gives it a size a moment
+    // later, and it must be free to give the old size back.
+    windowHandle()->setMinimumSize(windowHandle()->minimumSize().boundedTo(AtFloor(QSize())));
+    if (isEnlarged) {
+        resize(size().boundedTo(AtFloor(tooSmall_)));
+    }
+    LayOut();
 }
 
 QSize Form1::OuterSize() const {
