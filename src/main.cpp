@@ -6,6 +6,7 @@
 #include "platform/Platform.h"
 
 #include <QApplication>
+#include <QImageReader>
 
 #include <cstdio>
 #include <cstdlib>
@@ -22,6 +23,11 @@ void ExplainFatal(QtMsgType type, const QMessageLogContext&, const QString&) {
     }
 }
 
+// Those that Qt leaves to plug-ins: without them the game would be played with invisible dice.
+bool CanReadPictures() {
+    return QImageReader(u":/pictures/die1.jpg"_s).canRead() && QImageReader(u":/pictures/arrow-down.ico"_s).canRead();
+}
+
 } // namespace
 
 int main(int, char* argv[]) {
@@ -30,6 +36,10 @@ int main(int, char* argv[]) {
     QApplication application(noArguments, argv);
     qInstallMessageHandler(standardHandler);
 
+    if (!CanReadPictures()) {
+        std::fputs("kelvaro: Qt cannot read the game's pictures: its JPEG or ICO plug-in is missing\n", stderr);
+        return EXIT_FAILURE;
+    }
     QGuiApplication::setDesktopFileName(u"io.github.kelvaro.Kelvaro"_s);
     InstallAccessibility();
     Form1 window(SystemPlatform());
