@@ -25,7 +25,7 @@ bool IsAbsolute(const QByteArray& path) {
 
 // A session without HOME has the folder that the user's entry in the password file names.
 QByteArray HomeFolder() {
-    if (const QByteArray home = qgetenv("HOME"); IsAbsolute(home)) {
+    if (QByteArray home = qgetenv("HOME"); IsAbsolute(home)) {
         return home;
     }
     const passwd* user = getpwuid(getuid());
