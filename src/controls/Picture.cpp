@@ -3,20 +3,13 @@
 
 #include "controls/Picture.h"
 
-#include "controls/Appearance.h"
+#include "controls/PictureEffects.h"
 #include "platform/Int16.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 
 namespace {
-
-constexpr QColor hoverLight(255, 255, 255, 90);
-constexpr QColor pressedShade(196, 196, 196);
-// In pixels.
-constexpr qreal hoverEdge = 1.6;
-constexpr qreal focusEdge = 2;
-constexpr qreal focusOutset = 2.5; // how far the focus reaches over the hot area
 
 // A property of the window; Qt's own mark for this goes out with every change of the focus that no key asked for.
 constexpr char showsFocus[] = "showsKeyboardFocus";
@@ -49,22 +42,19 @@ void PictureFace::SetPicture(const PictureList& list, std::int16_t index) {
     }
 }
 
-QPointF PictureFace::FaceOffset() const {
+QPixmap PictureFace::Face() const {
+    return list_ == nullptr
+               ? QPixmap()
+               : list_->Rendering(index_, (QSizeF(control_->size()) * control_->devicePixelRatioF()).toSize());
+}
+
+void PictureFace::CountPixels(QPainter& painter) const {
     // At a fractional ratio a control's corner falls between device pixels. The picture starts at the nearest one and
     // is rendered in whole pixels, so that nothing is interpolated on the way to the screen.
     const qreal ratio = control_->devicePixelRatioF();
     const QPointF corner = control_->mapTo(control_->window(), QPoint());
-    return QPointF((corner * ratio).toPoint()) / ratio - corner;
-}
-
-void PictureFace::PaintFace() const {
-    if (list_ == nullptr) {
-        return;
-    }
-    const qreal ratio = control_->devicePixelRatioF();
-    QPixmap pixmap = list_->Rendering(index_, (QSizeF(control_->size()) * ratio).toSize());
-    pixmap.setDevicePixelRatio(ratio);
-    QPainter(control_).drawPixmap(FaceOffset(), pixmap);
+    painter.translate(QPointF((corner * ratio).toPoint()) / ratio - corner);
+    painter.scale(1 / ratio, 1 / ratio);
 }
 
 void ShowKeyboardFocus(QWidget& window, bool isShown) {
@@ -81,7 +71,9 @@ Picture::Picture(QWidget* parent) : QWidget(parent), PictureFace(this) {
 }
 
 void Picture::paintEvent(QPaintEvent*) {
-    PaintFace();
+    QPainter painter(this);
+    CountPixels(painter);
+    painter.drawPixmap(0, 0, Face());
 }
 
 PictureButton::PictureButton(QWidget* parent, const HotArea& hotArea)
@@ -119,40 +111,18 @@ void PictureButton::mousePressEvent(QMouseEvent* event) {
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
-    PaintFace();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(FaceOffset());
-    if ((underMouse() || isDown()) && wouldAct_()) {
-        PaintPointer(painter);
+    CountPixels(painter);
+    const QPixmap face = Face();
+    painter.drawPixmap(0, 0, face);
+
+    const PictureEffects effects(painter, face, hotArea_, devicePixelRatioF());
+    if (isDown() && wouldAct_()) {
+        effects.PaintPressed();
+    } else if (underMouse() && wouldAct_()) {
+        effects.PaintHover();
     }
     if (hasFocus() && ShowsKeyboardFocus(*window())) {
-        PaintFocus(painter);
-    }
-}
-
-void PictureButton::PaintPointer(QPainter& painter) const {
-    // Blended so that dark lettering stays dark and white stays white.
-    const bool isPressed = isDown();
-    painter.setCompositionMode(isPressed ? QPainter::CompositionMode_Multiply : QPainter::CompositionMode_Overlay);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(isPressed ? pressedShade : hoverLight);
-    painter.drawRoundedRect(hotArea_.area, hotArea_.radius, hotArea_.radius);
-
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.setPen(QPen(Colours::chart, hoverEdge));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(hotArea_.area, hotArea_.radius, hotArea_.radius);
-}
-
-void PictureButton::PaintFocus(QPainter& painter) const {
-    // Black inside white: one of the two stands out against whatever lies under it.
-    painter.setBrush(Qt::NoBrush);
-    for (const auto& [colour, inset] :
-         {std::pair(Colours::white, focusEdge / 2), std::pair(Colours::black, focusEdge * 1.5)}) {
-        const qreal outset = focusOutset - inset;
-        painter.setPen(QPen(colour, focusEdge));
-        painter.drawRoundedRect(hotArea_.area.adjusted(-outset, -outset, outset, outset), hotArea_.radius,
-                                hotArea_.radius);
+        effects.PaintFocus();
     }
 }

@@ -6,7 +6,7 @@
 #include "pictures/PictureList.h"
 
 #include <QAbstractButton>
-#include <QRectF>
+#include <QMarginsF>
 #include <QWidget>
 
 #include <cstdint>
@@ -28,9 +28,11 @@ public:
     std::int16_t Index() const { return index_; }
 
 protected:
-    // Where the picture starts, seen from the control's corner: less than a pixel away.
-    QPointF FaceOffset() const;
-    void PaintFace() const;
+    // The picture as it comes to the screen, one pixel for each of the screen's.
+    QPixmap Face() const;
+
+    // Has the painter count the screen's pixels from the picture's corner on.
+    void CountPixels(QPainter& painter) const;
 
 private:
     QWidget* control_;
@@ -50,18 +52,23 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-// A picture to click: with the left button, released inside the picture, or with Space or Enter. Under the pointer it
-// lights up, and pressed it darkens, but only while a click would do something. Its focus is drawn from the first key
-// on and no longer when the mouse is used.
+// A picture to click: with the left button, released inside the picture, or with Space or Enter. It lights up
+// under the pointer and goes down when it is pressed, but only while a click
+// would do something. Its focus is drawn from the first key on and no longer when the mouse is used. All that is laid
+// over the picture, on whole pixels of the screen.
 class PictureButton final : public QAbstractButton, public PictureFace {
 public:
-    // What lights up, in pixels: a rounded rectangle within the picture.
+    // What lights up, in pixels: a rounded rectangle that keeps from the picture's edges, and how far it goes down when
+    // pressed. What does not go down darkens.
     struct HotArea {
-        QRectF area;
+        QMarginsF margins;
         qreal radius;
+        qreal drop;
     };
 
     PictureButton(QWidget* parent, const HotArea& hotArea);
+
+    void SetHotArea(const HotArea& hotArea) { hotArea_ = hotArea; }
 
     // Tells the button how to find out whether a click would do something; without this it always would.
     void SetWouldAct(std::function<bool()> wouldAct) { wouldAct_ = std::move(wouldAct); }
@@ -74,9 +81,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void PaintPointer(QPainter& painter) const;
-    void PaintFocus(QPainter& painter) const;
-
     HotArea hotArea_;
     std::function<bool()> wouldAct_ = [] { return true; };
 };

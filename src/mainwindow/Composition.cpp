@@ -22,11 +22,6 @@ constexpr int strikeThickness = 8;
 constexpr int separatorThickness = 4;
 constexpr int statusBarHeight = 17;
 
-// What the pointer lights up: the inside of a cell's dotted edge, and the plates of the two picture buttons.
-constexpr PictureButton::HotArea cellArea{{2.5, 2.5, 45, 45}, 6};
-constexpr PictureButton::HotArea rollPlate{{15, 10, 167, 52}, 14};
-constexpr PictureButton::HotArea newGamePlate{{24, 10, 165, 52}, 14};
-
 QString Suffix(const BoardLine& line) {
     const bool isRow = line.kind == BoardLine::Kind::Row;
     return (isRow ? u"_row"_s : u"_col"_s) + QString::number(line.number);
@@ -94,7 +89,7 @@ void Form1::ComposeCells(QWidget* table) {
     for (const CellPosition& position : boardCells) {
         const std::int16_t row = position.row;
         const std::int16_t column = position.column;
-        auto* cell = Named(new PictureButton(table, cellArea), u"img%1_%2"_s.arg(row).arg(column));
+        auto* cell = Named(new PictureButton(table, Design::emptyCellArea), u"img%1_%2"_s.arg(row).arg(column));
         Place(*cell, Design::cell.translated(Design::pitch * (column - 1), Design::pitch * (row - 1)));
         ShowCell(*cell, row, column);
         cell->SetWouldAct([=, this] { return pendingRoll_ != 0 && board_.At(row, column) == 0; });
@@ -142,12 +137,13 @@ void Form1::ComposeButtonStrip(QWidget* table) {
     };
 
     line1_ = Named(new LineShape(table, Design::separator, separatorThickness, Colours::white), u"Line1"_s);
-    imgNewGame_ = addButton(u"imgNewGame"_s, u"New Game"_s, newGamePicture_, newGamePlate, Design::newGameButton,
-                            &Form1::imgNewGame_Click);
+    imgNewGame_ = addButton(u"imgNewGame"_s, u"New Game"_s, newGamePicture_, Design::newGamePlate,
+                            Design::newGameButton, &Form1::imgNewGame_Click);
     lblRolled_ = NewLabel(table, u"lblRolled"_s, TypeSize::Numeral, Qt::AlignLeft);
     lblRolled_->SetBackground(Colours::table);
     Place(*lblRolled_, Design::sum);
-    image1_ = addButton(u"Image1"_s, u"Roll Dice"_s, rollPicture_, rollPlate, Design::rollButton, &Form1::Image1_Click);
+    image1_ = addButton(u"Image1"_s, u"Roll Dice"_s, rollPicture_, Design::rollPlate, Design::rollButton,
+                        &Form1::Image1_Click);
     imgRolled1_ = addDie(u"imgRolled1"_s, Design::firstDie);
     imgRolled2_ = addDie(u"imgRolled2"_s, Design::secondDie);
 }

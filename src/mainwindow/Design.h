@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "controls/Picture.h"
 #include "scoring/BoardLines.h"
 
 #include <QLineF>
@@ -46,6 +47,12 @@ inline constexpr QRectF newGameButton{3120, 5760, 2955, 1125};
 inline constexpr QRectF sum{2040, 5880, 1305, 825};
 inline constexpr QRectF firstDie{240, 5880, 750, 750};
 inline constexpr QRectF secondDie{1080, 5880, 750, 750};
+
+// What lights up: the inside of a cell's dotted edge, a disc, and the plates of the two picture buttons. In pixels.
+inline constexpr PictureButton::HotArea emptyCellArea{{2.9, 2.9, 2.9, 2.9}, 3, 0};
+inline constexpr PictureButton::HotArea discArea{{2, 2, 2, 2}, 23, 0};
+inline constexpr PictureButton::HotArea rollPlate{{18, 10, 14, 13}, 14, 3};
+inline constexpr PictureButton::HotArea newGamePlate{{30, 10, 2, 13}, 14, 3};
 
 inline constexpr QLineF Strike(const BoardLine& line) {
     const auto& strikes = line.kind == BoardLine::Kind::Row ? rowStrikes : columnStrikes;

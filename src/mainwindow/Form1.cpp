@@ -5,6 +5,7 @@
 
 #include "controls/Label.h"
 #include "controls/Picture.h"
+#include "mainwindow/Design.h"
 #include "mainwindow/SpokenNames.h"
 
 #include <QLayout>
@@ -42,6 +43,7 @@ PictureButton& Form1::Cell(std::int16_t row, std::int16_t column) const {
 void Form1::ShowCell(PictureButton& cell, std::int16_t row, std::int16_t column) {
     const RollValue value = board_.At(row, column);
     cell.SetPicture(imageList2_, value == 0 ? emptyCellPicture : value);
+    cell.SetHotArea(value == 0 ? Design::emptyCellArea : Design::discArea);
     cell.setAccessibleName(SpokenNames::Cell(row, column, value));
 }
 

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#include "controls/PictureEffects.h"
+
+#include "controls/Appearance.h"
+
+namespace {
+
+constexpr QColor light(255, 255, 255, 90);
+constexpr QColor warmth(255, 250, 210);
+constexpr QColor shade(196, 196, 196);
+constexpr qreal edgeWidth = 2; // of the design's pixels
+
+} // namespace
+
+PictureEffects::PictureEffects(QPainter& painter, const QPixmap& face, const PictureButton::HotArea& hotArea,
+                               qreal ratio)
+    : painter_(painter), face_(face), ratio_(ratio), radius_(hotArea.radius * ratio), drop_(Pixels(hotArea.drop)),
+      edge_(Pixels(edgeWidth)) {
+    const QMarginsF& margins = hotArea.margins;
+    area_ = face.rect().marginsRemoved(
+        {Pixels(margins.left()), Pixels(margins.top()), Pixels(margins.right()), Pixels(margins.bottom())});
+    painter_.setRenderHint(QPainter::Antialiasing);
+}
+
+void PictureEffects::PaintHover() const {
+    // Blended so that dark lettering stays dark and white stays light.
+    Fill(light, QPainter::CompositionMode_Overlay);
+    Fill(warmth, QPainter::CompositionMode_Multiply);
+    Frame(Colours::chart, -edge_);
+}
+
+void PictureEffects::PaintPressed() const {
+    if (drop_ == 0) {
+        Fill(shade, QPainter::CompositionMode_Multiply);
+        Frame(Colours::chart, -edge_);
+        return;
+    }
+    // The face goes down onto its shadow, and what is yet to be painted goes with it; where it was is table.
+    painter_.fillRect(area_.left() - 1, area_.top() - 1, area_.width() + 2, area_.height() / 2, Colours::table);
+    painter_.translate(0, drop_);
+    Fill(face_, QPainter::CompositionMode_SourceOver);
+}
+
+void PictureEffects::PaintFocus() const {
+    // Black inside white: one of the two stands out against whatever lies under it.
+    Frame(Colours::white, -edge_);
+    Frame(Colours::black, 0);
+}
+
+void PictureEffects::Fill(const QBrush& brush, QPainter::CompositionMode mode) const {
+    painter_.setCompositionMode(mode);
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(brush);
+    painter_.drawRoundedRect(area_, radius_, radius_);
+    painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+// A line of the edges' width whose outside keeps `inset` from the outside of the hot area, concentric with it.
+void PictureEffects::Frame(const QColor& colour, int inset) const {
+    const qreal middle = inset + edge_ / 2.0;
+    painter_.setPen(QPen(colour, edge_));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRoundedRect(QRectF(area_).adjusted(middle, middle, -middle, -middle), radius_ - middle,
+                             radius_ - middle);
+}
