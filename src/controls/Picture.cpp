@@ -121,6 +121,8 @@ void PictureButton::paintEvent(QPaintEvent*) {
         effects.PaintPressed();
     } else if (underMouse() && wouldAct_()) {
         effects.PaintHover();
+    } else if (isNext_()) {
+        effects.PaintNext();
     }
     if (hasFocus() && ShowsKeyboardFocus(*window())) {
         effects.PaintFocus();

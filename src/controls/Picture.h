@@ -52,8 +52,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-// A picture to click: with the left button, released inside the picture, or with Space or Enter. It lights up
-// under the pointer and goes down when it is pressed, but only while a click
+// A picture to click: with the left button, released inside the picture, or with Space or Enter. It shows faintly that
+// it is the next to be clicked, lights up under the pointer and goes down when it is pressed, but only while a click
 // would do something. Its focus is drawn from the first key on and no longer when the mouse is used. All that is laid
 // over the picture, on whole pixels of the screen.
 class PictureButton final : public QAbstractButton, public PictureFace {
@@ -73,6 +73,9 @@ public:
     // Tells the button how to find out whether a click would do something; without this it always would.
     void SetWouldAct(std::function<bool()> wouldAct) { wouldAct_ = std::move(wouldAct); }
 
+    // Tells the button how to find out whether it is the next to be clicked; without this it never is.
+    void SetIsNext(std::function<bool()> isNext) { isNext_ = std::move(isNext); }
+
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -83,4 +86,5 @@ protected:
 private:
     HotArea hotArea_;
     std::function<bool()> wouldAct_ = [] { return true; };
+    std::function<bool()> isNext_ = [] { return false; };
 };

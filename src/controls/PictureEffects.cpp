@@ -7,7 +7,9 @@
 
 namespace {
 
+constexpr QColor faintLight(0, 255, 0, 40);
 constexpr QColor light(255, 255, 255, 90);
+constexpr QColor faintEdge(184, 226, 156);
 constexpr QColor warmth(255, 250, 210);
 constexpr QColor shade(196, 196, 196);
 constexpr qreal edgeWidth = 2; // of the design's pixels
@@ -22,6 +24,13 @@ PictureEffects::PictureEffects(QPainter& painter, const QPixmap& face, const Pic
     area_ = face.rect().marginsRemoved(
         {Pixels(margins.left()), Pixels(margins.top()), Pixels(margins.right()), Pixels(margins.bottom())});
     painter_.setRenderHint(QPainter::Antialiasing);
+}
+
+void PictureEffects::PaintNext() const {
+    if (drop_ == 0) { // a plate is light as it is
+        Fill(faintLight, QPainter::CompositionMode_SourceOver);
+    }
+    Frame(faintEdge, -edge_);
 }
 
 void PictureEffects::PaintHover() const {

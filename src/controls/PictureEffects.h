@@ -15,6 +15,7 @@ class PictureEffects {
 public:
     PictureEffects(QPainter& painter, const QPixmap& face, const PictureButton::HotArea& hotArea, qreal ratio);
 
+    void PaintNext() const;
     void PaintHover() const;
     void PaintPressed() const;
     void PaintFocus() const;

@@ -40,7 +40,7 @@ void Form1::StartNewGame() {
     imgRolled2_->hide();
     ShowSum(QString());
     currentCell_ = {};
-    RepaintHoveredCell();
+    RepaintEffects();
 }
 
 void Form1::imgNewGame_Click() {

@@ -22,6 +22,6 @@ void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column
     ShowSum(QString());
     imgRolled1_->hide();
     imgRolled2_->hide();
-    RepaintHoveredCell();
+    RepaintEffects();
     UpdateScores();
 }

@@ -47,7 +47,7 @@ void Form1::RollDice() {
     // The roll may be placed, or a new game begun, inside either pause; what follows is done all the same,
     // from the fields as they then stand.
     imgRolled1_->show();
-    RepaintHoveredCell();
+    RepaintEffects();
     Pause();
     imgRolled2_->show();
     Pause();

@@ -92,7 +92,9 @@ void Form1::ComposeCells(QWidget* table) {
         auto* cell = Named(new PictureButton(table, Design::emptyCellArea), u"img%1_%2"_s.arg(row).arg(column));
         Place(*cell, Design::cell.translated(Design::pitch * (column - 1), Design::pitch * (row - 1)));
         ShowCell(*cell, row, column);
-        cell->SetWouldAct([=, this] { return pendingRoll_ != 0 && board_.At(row, column) == 0; });
+        const auto isOpen = [=, this] { return pendingRoll_ != 0 && board_.At(row, column) == 0; };
+        cell->SetWouldAct(isOpen);
+        cell->SetIsNext(isOpen);
         connect(cell, &PictureButton::clicked, this, [=, this] { PlaceRoll(*cell, row, column); });
         cells_[Board::Element(row, column)] = cell;
     }
@@ -139,6 +141,7 @@ void Form1::ComposeButtonStrip(QWidget* table) {
     line1_ = Named(new LineShape(table, Design::separator, separatorThickness, Colours::white), u"Line1"_s);
     imgNewGame_ = addButton(u"imgNewGame"_s, u"New Game"_s, newGamePicture_, Design::newGamePlate,
                             Design::newGameButton, &Form1::imgNewGame_Click);
+    imgNewGame_->SetIsNext([this] { return board_.IsFull(); });
     lblRolled_ = NewLabel(table, u"lblRolled"_s, TypeSize::Numeral, Qt::AlignLeft);
     lblRolled_->SetBackground(Colours::table);
     Place(*lblRolled_, Design::sum);

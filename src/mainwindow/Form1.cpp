@@ -52,12 +52,8 @@ void Form1::ShowSum(const QString& caption) {
     lblRolled_->setAccessibleName(SpokenNames::Roll(pendingRoll_));
 }
 
-void Form1::RepaintHoveredCell() {
-    for (PictureButton* cell : cells_) {
-        if (cell->underMouse()) {
-            cell->update();
-        }
-    }
+void Form1::RepaintEffects() {
+    centralWidget()->update();
 }
 
 void Form1::SetPrompt(const QString& prompt) {

@@ -100,8 +100,8 @@ private:
     // What is seen and what is spoken of a cell, as the board has it, and of the sum, as the pending roll is.
     void ShowCell(PictureButton& cell, std::int16_t row, std::int16_t column);
     void ShowSum(const QString& caption);
-    // Lets the cell under the pointer follow a change of what a click on it would do.
-    void RepaintHoveredCell();
+    // Lets the pictures follow a change of what is next and of what a click on them would do.
+    void RepaintEffects();
     void SetPrompt(const QString& prompt);
 
     // mainwindow/: keyboard. The grid, the roll button and the new-game button are one stop of the Tab key each.
