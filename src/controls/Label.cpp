@@ -81,6 +81,10 @@ void Label::FitText() {
     if (fitting != font()) {
         setFont(fitting);
     }
+    if (middle_ > 0) {
+        const QFontMetricsF metrics(fitting);
+        setContentsMargins(0, qRound(middle_ - metrics.ascent() + metrics.capHeight() / 2), 0, 0);
+    }
 }
 
 bool Label::Fits(const QFont& font) const {

@@ -22,6 +22,10 @@ public:
     // Bounds the text more closely than the label does: what lies beyond is covered by another control.
     void SetRoom(const QSize& room);
 
+    // Puts the middle of numerals and capitals at `middle` pixels below the label's top, at whatever size they fit.
+    // Call before the label is shown.
+    void SetMiddle(qreal middle) { middle_ = middle; }
+
     // Keeps the text at or below a size in pixels; its font's own size at first.
     void SetLargestSize(int pixelSize);
 
@@ -36,5 +40,6 @@ private:
 
     QFont font_;
     QSize room_;
+    qreal middle_ = 0; // of no meaning at 0
     int largestSize_;
 };

@@ -3,6 +3,7 @@
 
 #include "dialogs/frmAbout.h"
 
+#include "controls/Label.h"
 #include "controls/LineShape.h"
 #include "controls/Picture.h"
 #include "controls/Twips.h"
@@ -26,10 +27,11 @@ frmAbout::frmAbout()
     dark->setObjectName(u"Line1(1)"_s);
 
     const auto addText = [this](const QString& name, const QRect& place, const QString& caption) {
-        AddLabel({name, place, Colours::white, TypeSize::Text, QFont::Normal, caption});
+        return AddLabel({name, place, Colours::white, TypeSize::Text, QFont::Normal, caption});
     };
     auto* okButton = AddButton(u"cmdOK"_s, u"OK"_s, {216, 128, 84, 23});
-    addText(u"lblDisclaimer"_s, {8, 128, 258, 23}, u"Copyright © 2026 the Kelvaro developers"_s);
+    const QRect line(8, 128, 258, 23);
+    addText(u"lblDisclaimer"_s, line, u"Copyright © 2026 the Kelvaro developers"_s)->SetMiddle(line.height() / 2.0);
     AddLabel({u"lblTitle"_s, {88, 8, 259, 32}, Colours::white, TypeSize::Heading, QFont::Normal, u"Kelvaro"_s});
     addText(u"lblVersion"_s, {88, 32, 259, 15}, u"Version "_s + QLatin1String(KELVARO_VERSION));
     addText(u"Label1"_s, {88, 56, 265, 33}, u"Support: the Kelvaro issue tracker"_s);

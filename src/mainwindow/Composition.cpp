@@ -145,6 +145,7 @@ void Form1::ComposeButtonStrip(QWidget* table) {
     lblRolled_ = NewLabel(table, u"lblRolled"_s, TypeSize::Numeral, Qt::AlignLeft);
     lblRolled_->SetBackground(Colours::table);
     Place(*lblRolled_, Design::sum);
+    lblRolled_->SetMiddle(Design::firstDie.height() / 2 / twipsPerPixel);
     image1_ = addButton(u"Image1"_s, u"Roll Dice"_s, rollPicture_, Design::rollPlate, Design::rollButton,
                         &Form1::Image1_Click);
     imgRolled1_ = addDie(u"imgRolled1"_s, Design::firstDie);
