@@ -42,8 +42,8 @@ frmHelp::frmHelp() : GreenDialog(u"frmHelp"_s, u"How To Play Kelvaro"_s, QSize(4
     connect(okButton, &QPushButton::clicked, this, &frmHelp::OKButton_Click);
 
     AddLabel({u"Label1"_s, {8, 8, 145, 25}, Colours::heading, TypeSize::Heading, QFont::Normal, u"Game Play"_s});
-    AddLabel({u"Label2"_s, {8, 32, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, playText});
-    AddLabel({u"Label3"_s, {8, 80, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, objectText});
+    auto* play = AddLabel({u"Label2"_s, {8, 32, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, playText});
+    auto* object = AddLabel({u"Label3"_s, {8, 80, 401, 41}, Colours::white, TypeSize::Text, QFont::Normal, objectText});
     std::vector<Label*> rows;
     rows.reserve(chartPlaces.size());
     for (std::size_t at = 0; at < chartPlaces.size(); ++at) {
@@ -53,6 +53,7 @@ frmHelp::frmHelp() : GreenDialog(u"frmHelp"_s, u"How To Play Kelvaro"_s, QSize(4
              u"%1 = %2 points: %3"_s.arg(QLatin1String(hand.name)).arg(hand.points).arg(QLatin1String(hand.rule))}));
     }
     FitLabels();
+    FitAlike({play, object});
     FitAlike(rows);
 }
 
