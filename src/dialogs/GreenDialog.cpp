@@ -6,6 +6,7 @@
 #include "controls/Label.h"
 #include "controls/ScreenPlace.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QWindow>
@@ -62,6 +63,9 @@ GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSiz
 }
 
 void GreenDialog::ShowModal(const QWidget& window) {
+    if (QApplication::activeModalWidget() != nullptr) {
+        return;
+    }
     // Before there is a native window, whose client area later moves would place. The dialog's frame is going to be
     // like the window's.
     const QSize outer = size().grownBy(window.windowHandle()->frameMargins());

@@ -22,7 +22,8 @@ class QPushButton;
 // Escape closes a dialog only through its cancel button, and Enter presses the button that has the focus.
 class GreenDialog : public GreenSurface<QDialog> {
 public:
-    // Shows the dialog and returns when it is closed. It stays above `window` but has no owner.
+    // Shows the dialog and returns when it is closed. It stays above `window` but has no owner. Shows nothing while
+    // another dialog is open.
     void ShowModal(const QWidget& window);
 
 protected:

@@ -7,13 +7,19 @@
 #include "mainwindow/Form1.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+// Yes or no; no as well while another dialog is open: what that one covers can still be pressed through the
+// accessibility bus, and dialogs must not pile up.
 bool Confirm(QWidget* window, const QString& question) {
+    if (QApplication::activeModalWidget() != nullptr) {
+        return false;
+    }
     QMessageBox box(QMessageBox::NoIcon, u"Kelvaro"_s, question, QMessageBox::Yes | QMessageBox::No, window);
     box.setDefaultButton(QMessageBox::Yes);
     return box.exec() == QMessageBox::Yes;
