@@ -33,7 +33,8 @@ frmAbout::frmAbout()
     const QRect line(8, 128, 258, 23);
     addText(u"lblDisclaimer"_s, line, u"Copyright © 2026 the Kelvaro developers"_s)->SetMiddle(line.height() / 2.0);
     AddLabel({u"lblTitle"_s, {88, 8, 259, 32}, Colours::white, TypeSize::Heading, QFont::Normal, u"Kelvaro"_s});
-    addText(u"lblVersion"_s, {88, 32, 259, 15}, u"Version "_s + QLatin1String(KELVARO_VERSION));
+    addText(u"lblVersion"_s, {88, 32, 259, 15}, u"Version "_s + QLatin1String(KELVARO_VERSION))
+        ->setAccessibleName(u"Kelvaro, version "_s + QLatin1String(KELVARO_VERSION)); // a reader skips two words
     addText(u"Label1"_s, {88, 56, 265, 33}, u"Support: the Kelvaro issue tracker"_s);
     FitLabels();
 

@@ -4,6 +4,7 @@
 #include "highscores/frmHighScores.h"
 
 #include "controls/Label.h"
+#include "mainwindow/SpokenNames.h"
 #include "platform/Int16.h"
 
 #include <QPushButton>
@@ -24,6 +25,7 @@ frmHighScores::frmHighScores(const HighScoreTable& table, const SettingsStore& s
         label = AddLabel({u"lblHighScore(%1)"_s.arg(index), place, Colours::white, TypeSize::Chart, QFont::Bold,
                           u"999  Anonymous"_s}); // as designed; it never shows
         label->SetCaption(table.Caption(rank));
+        label->setAccessibleName(SpokenNames::Rank(rank, table.At(rank)));
         rank = CheckedAdd(rank, 1);
     }
     FitLabels();

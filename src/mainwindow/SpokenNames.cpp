@@ -30,3 +30,8 @@ QString SpokenNames::Die(const QString& ordinal, std::int16_t pips) {
 QString SpokenNames::Roll(RollValue sum) {
     return sum == 0 ? u"No roll"_s : u"Sum of the roll: %1"_s.arg(sum);
 }
+
+QString SpokenNames::Rank(std::int16_t rank, const HighScoreEntry& entry) {
+    const QString text = entry.text.isEmpty() ? QString() : u", "_s + entry.text;
+    return u"Rank %1: %2 points"_s.arg(rank).arg(entry.score) + text;
+}

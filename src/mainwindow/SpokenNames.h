@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/RollValue.h"
+#include "highscores/HighScoreTable.h"
 
 #include <QString>
 
@@ -28,5 +29,8 @@ QString Die(const QString& ordinal, std::int16_t pips);
 
 // "Sum of the roll: 7", or "No roll" for 0.
 QString Roll(RollValue sum);
+
+// "Rank 2: 90 points, 2026/11/15 0:59", or "Rank 5: 0 points" without a text.
+QString Rank(std::int16_t rank, const HighScoreEntry& entry);
 
 } // namespace SpokenNames
