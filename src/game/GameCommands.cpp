@@ -22,6 +22,7 @@ bool Confirm(QWidget* window, const QString& question) {
     }
     QMessageBox box(QMessageBox::NoIcon, u"Kelvaro"_s, question, QMessageBox::Yes | QMessageBox::No, window);
     box.setDefaultButton(QMessageBox::Yes);
+    box.setTextInteractionFlags(Qt::NoTextInteraction); // a screen reader passes over a label that can have the focus
     return box.exec() == QMessageBox::Yes;
 }
 
