@@ -17,6 +17,13 @@ namespace {
 // A roll begun inside a pause goes one level deeper into the stack, which is not endless.
 constexpr int mostPausesUnderWay = 64;
 
+// A screen reader that hears the name of a hidden die takes it for hidden from then on.
+void NameShownDie(Picture& die, const QString& ordinal) {
+    if (!die.isHidden()) {
+        die.setAccessibleName(SpokenNames::Die(ordinal, die.Index()));
+    }
+}
+
 } // namespace
 
 void Form1::Image1_Click() {
@@ -41,15 +48,16 @@ void Form1::RollDice() {
     pendingRoll_ = CheckedAdd(secondDie, firstDie);
     imgRolled1_->SetPicture(imageList1_, firstDie);
     imgRolled2_->SetPicture(imageList1_, secondDie);
-    imgRolled1_->setAccessibleName(SpokenNames::Die(u"First"_s, firstDie));
-    imgRolled2_->setAccessibleName(SpokenNames::Die(u"Second"_s, secondDie));
+    NameShownDie(*imgRolled2_, u"Second"_s); // shown when a roll under way goes on after its placement
 
     // The roll may be placed, or a new game begun, inside either pause; what follows is done all the same,
     // from the fields as they then stand.
     imgRolled1_->show();
+    NameShownDie(*imgRolled1_, u"First"_s);
     RepaintEffects();
     Pause();
     imgRolled2_->show();
+    NameShownDie(*imgRolled2_, u"Second"_s);
     Pause();
     ShowSum(u"= %1"_s.arg(pendingRoll_));
     SetPrompt(Prompts::select);
