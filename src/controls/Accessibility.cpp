@@ -75,7 +75,7 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
         return new AccessibleSurface(dialog, QAccessible::Dialog, dialog->windowTitle());
     }
     if (auto* surface = dynamic_cast<GreenSurface<QWidget>*>(object)) {
-        return new AccessibleSurface(surface, QAccessible::Grouping);
+        return new AccessibleSurface(surface, QAccessible::Client);
     }
     if (auto* picture = dynamic_cast<Picture*>(object)) {
         return new QAccessibleWidget(picture, QAccessible::Graphic);

@@ -5,5 +5,5 @@
 
 // Makes green surfaces speak: of its children a surface lists those that are shown and have something to say, so that
 // neither hidden controls nor strike lines and arrows are found, from the top down, push buttons last. Surfaces have
-// the role of a grouping or a dialog, pictures that of a graphic. Call once, before the first window is made.
+// the role of a client area or a dialog, pictures that of a graphic. Call once, before the first window is made.
 void InstallAccessibility();
