@@ -4,12 +4,14 @@
 #include "controls/Accessibility.h"
 
 #include "controls/GreenSurface.h"
+#include "controls/Label.h"
 #include "controls/Picture.h"
 
 #include <QAccessibleWidget>
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QStatusBar>
 
 #include <algorithm>
 #include <tuple>
@@ -70,15 +72,42 @@ private:
     }
 };
 
+// A button whose hint is found out when it is asked for.
+class AccessiblePictureButton final : public QAccessibleWidget {
+public:
+    explicit AccessiblePictureButton(PictureButton* button)
+        : QAccessibleWidget(button, QAccessible::Button), button_(button) {}
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Description ? button_->Hint() : QAccessibleWidget::text(kind);
+    }
+
+    QStringList actionNames() const override { return QStringList(pressAction()) + QAccessibleWidget::actionNames(); }
+
+    // A moment later, as a roll or a question takes longer than whoever asks for it waits.
+    void doAction(const QString& name) override {
+        name == pressAction() ? button_->animateClick() : QAccessibleWidget::doAction(name);
+    }
+
+private:
+    PictureButton* button_;
+};
+
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
     if (auto* dialog = dynamic_cast<GreenSurface<QDialog>*>(object)) {
-        return new AccessibleSurface(dialog, QAccessible::Dialog, dialog->windowTitle());
+        return new AccessibleSurface(dialog, QAccessible::Dialog);
     }
     if (auto* surface = dynamic_cast<GreenSurface<QWidget>*>(object)) {
         return new AccessibleSurface(surface, QAccessible::Client);
     }
+    if (auto* button = dynamic_cast<PictureButton*>(object)) {
+        return new AccessiblePictureButton(button);
+    }
     if (auto* picture = dynamic_cast<Picture*>(object)) {
         return new QAccessibleWidget(picture, QAccessible::Graphic);
+    }
+    if (auto* label = dynamic_cast<Label*>(object); label != nullptr && qobject_cast<QStatusBar*>(label->parent())) {
+        return new QAccessibleWidget(label, QAccessible::Notification);
     }
     return nullptr;
 }
@@ -87,4 +116,15 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
 
 void InstallAccessibility() {
     QAccessible::installFactory(MakeInterface);
+}
+
+void Announce(Label& label, const QString& news) {
+    label.setAccessibleName(news);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent announcement(&label, news);
+#else
+    // There are no announcements yet, but the name of a notification that appears is spoken.
+    QAccessibleEvent announcement(&label, QAccessible::ObjectShow);
+#endif
+    QAccessible::updateAccessibility(&announcement);
 }

@@ -3,7 +3,13 @@
 
 #pragma once
 
+class Label;
+class QString;
+
 // Makes green surfaces speak: of its children a surface lists those that are shown and have something to say, so that
 // neither hidden controls nor strike lines and arrows are found, from the top down, push buttons last. Surfaces have
 // the role of a client area or a dialog, pictures that of a graphic. Call once, before the first window is made.
 void InstallAccessibility();
+
+// Has a screen reader say the news after what it is saying. They stay the label's spoken name, whatever its text.
+void Announce(Label& label, const QString& news);

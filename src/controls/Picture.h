@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QMarginsF>
+#include <QString>
 #include <QWidget>
 
 #include <cstdint>
@@ -76,6 +77,10 @@ public:
     // Tells the button how to find out whether it is the next to be clicked; without this it never is.
     void SetIsNext(std::function<bool()> isNext) { isNext_ = std::move(isNext); }
 
+    // What a screen reader says after the button's name, found out whenever it asks; nothing at first.
+    void SetHint(std::function<QString()> hint) { hint_ = std::move(hint); }
+    QString Hint() const { return hint_(); }
+
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -87,4 +92,5 @@ private:
     HotArea hotArea_;
     std::function<bool()> wouldAct_ = [] { return true; };
     std::function<bool()> isNext_ = [] { return false; };
+    std::function<QString()> hint_ = [] { return QString(); };
 };

@@ -36,6 +36,7 @@ void Form1::Form_Load() {
 void Form1::StartNewGame() {
     board_.Clear();
     pendingRoll_ = 0;
+    Tell(u"New game"_s);
     UpdateScores();
     for (const auto [row, column] : boardCells) {
         ShowCell(Cell(row, column), row, column);
@@ -48,6 +49,7 @@ void Form1::StartNewGame() {
     ShowSum(QString());
     currentCell_ = {};
     RepaintEffects();
+    AnnounceNews();
 }
 
 void Form1::imgNewGame_Click() {

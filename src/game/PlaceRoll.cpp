@@ -3,11 +3,16 @@
 
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
+#include "mainwindow/SpokenNames.h"
 
 #include <QAction>
 
+using namespace Qt::StringLiterals;
+
 void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column) {
     if (board_.At(row, column) != 0 || pendingRoll_ == 0) {
+        Tell(board_.At(row, column) != 0 ? u"This cell is filled"_s : u"There is no roll to place"_s);
+        AnnounceNews();
         return;
     }
     // Before the scoring, which takes rolling away again when the board is full.
@@ -18,10 +23,12 @@ void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column
     board_.Set(row, column, pendingRoll_);
     ShowCell(cell, row, column);
     currentCell_ = {row, column};
+    Tell(SpokenNames::Placed(row, column, pendingRoll_));
     pendingRoll_ = 0;
     ShowSum(QString());
     imgRolled1_->hide();
     imgRolled2_->hide();
     RepaintEffects();
     UpdateScores();
+    AnnounceNews();
 }

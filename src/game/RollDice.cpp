@@ -49,6 +49,7 @@ void Form1::RollDice() {
     imgRolled1_->SetPicture(imageList1_, firstDie);
     imgRolled2_->SetPicture(imageList1_, secondDie);
     NameShownDie(*imgRolled2_, u"Second"_s); // shown when a roll under way goes on after its placement
+    Tell(SpokenNames::Thrown(firstDie, secondDie));
 
     // The roll may be placed, or a new game begun, inside either pause; what follows is done all the same,
     // from the fields as they then stand.
@@ -61,6 +62,7 @@ void Form1::RollDice() {
     Pause();
     ShowSum(u"= %1"_s.arg(pendingRoll_));
     SetPrompt(Prompts::select);
+    AnnounceNews();
 }
 
 // A count of passes on purpose, not a time.

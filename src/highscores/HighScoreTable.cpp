@@ -28,14 +28,14 @@ const HighScoreEntry& HighScoreTable::At(std::int16_t rank) const {
     return entries_[static_cast<std::size_t>(CheckedIndex(rank, 1, Ranks) - 1)];
 }
 
-bool HighScoreTable::Enter(std::int16_t score, const std::function<QString()>& text) {
+std::optional<std::int16_t> HighScoreTable::Enter(std::int16_t score, const std::function<QString()>& text) {
     const auto beaten = std::ranges::find_if(entries_, [=](const auto& entry) { return entry.score < score; });
     if (beaten == entries_.end()) {
-        return false;
+        return std::nullopt;
     }
     std::move_backward(beaten, entries_.end() - 1, entries_.end());
     *beaten = {score, text()};
-    return true;
+    return ToInt16(beaten - entries_.begin() + 1);
 }
 
 QString HighScoreTable::Caption(std::int16_t rank) const {

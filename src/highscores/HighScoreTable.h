@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 class SettingsStore;
 
@@ -28,8 +29,8 @@ public:
     const HighScoreEntry& At(std::int16_t rank) const;
 
     // Puts a score that beats one of the table's above the first that is less, so a tie goes below the older entry, and
-    // drops the last entry. Whether it did; `text` is asked for only then.
-    bool Enter(std::int16_t score, const std::function<QString()>& text);
+    // drops the last entry. The rank, if it has one; `text` is asked for only then.
+    std::optional<std::int16_t> Enter(std::int16_t score, const std::function<QString()>& text);
 
     // What a list of the best rounds reads at the rank: the score, two blanks and the text.
     QString Caption(std::int16_t rank) const;

@@ -5,6 +5,10 @@
 #include "highscores/frmHighScores.h"
 #include "mainwindow/Form1.h"
 
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
 void Form1::LoadHighScores() {
     highScores_.Load(platform_.store);
 }
@@ -14,10 +18,11 @@ void Form1::SaveHighScores() {
 }
 
 void Form1::RecordHighScore(std::int16_t score) {
-    const bool hasEntered = highScores_.Enter(score, [this] { return DateTimeText(platform_); });
+    const auto rank = highScores_.Enter(score, [this] { return DateTimeText(platform_); });
     // On disk before anything else happens, so that no end of the program can lose the round.
     SaveHighScores();
-    if (hasEntered) {
+    if (rank) {
+        Tell(u"Rank %1"_s.arg(*rank));
         ShowHighScores();
     }
 }
@@ -28,5 +33,12 @@ void Form1::mnuGameHigh_Click() {
 }
 
 void Form1::ShowHighScores() {
-    frmHighScores(highScores_, platform_.store).ShowModal(*this);
+    frmHighScores dialog(highScores_, platform_.store);
+    // With the dialog's name, because news that are announced now would be heard after all that stands in it.
+    dialog.setAccessibleName(std::exchange(news_, {}) + dialog.windowTitle());
+    dialog.ShowModal(*this);
+    if (dialog.HasReset()) {
+        Tell(u"The scores are reset"_s);
+        AnnounceNews();
+    }
 }

@@ -37,6 +37,7 @@ void frmHighScores::OKButton_Click() {
 
 void frmHighScores::CancelButton_Click() {
     HighScoreTable().Save(store_); // the window's own table stays
+    hasReset_ = true;
     for (Label* label : lblHighScore_) {
         label->SetCaption(u"0"_s);
     }

@@ -17,10 +17,13 @@ public:
     // `table` alone.
     frmHighScores(const HighScoreTable& table, const SettingsStore& store);
 
+    bool HasReset() const { return hasReset_; }
+
 private:
     void OKButton_Click();
     void CancelButton_Click();
 
     const SettingsStore& store_;
+    bool hasReset_ = false;
     std::array<Label*, HighScoreTable::Ranks> lblHighScore_{};
 };

@@ -9,6 +9,7 @@
 #include "controls/Twips.h"
 #include "mainwindow/Design.h"
 #include "mainwindow/Form1.h"
+#include "mainwindow/SpokenNames.h"
 
 #include <QMenuBar>
 #include <QStatusBar>
@@ -95,6 +96,9 @@ void Form1::ComposeCells(QWidget* table) {
         const auto isOpen = [=, this] { return pendingRoll_ != 0 && board_.At(row, column) == 0; };
         cell->SetWouldAct(isOpen);
         cell->SetIsNext(isOpen);
+        // Not before the roll itself has been announced.
+        cell->SetHint(
+            [=, this] { return isOpen() && news_.isEmpty() ? SpokenNames::Waiting(pendingRoll_) : QString(); });
         connect(cell, &PictureButton::clicked, this, [=, this] { PlaceRoll(*cell, row, column); });
         cells_[Board::Element(row, column)] = cell;
     }

@@ -3,6 +3,7 @@
 
 #include "mainwindow/Form1.h"
 
+#include "controls/Accessibility.h"
 #include "controls/Label.h"
 #include "controls/Picture.h"
 #include "mainwindow/Design.h"
@@ -58,4 +59,17 @@ void Form1::RepaintEffects() {
 
 void Form1::SetPrompt(const QString& prompt) {
     prompt_->SetCaption(prompt);
+    if (!news_.isEmpty()) {
+        news_ += prompt + u' ';
+    }
+}
+
+void Form1::Tell(const QString& sentence) {
+    news_ += sentence + u". "_s;
+}
+
+void Form1::AnnounceNews() {
+    if (!news_.isEmpty()) {
+        Announce(*prompt_, std::exchange(news_, {}).trimmed());
+    }
 }

@@ -104,6 +104,11 @@ private:
     void RepaintEffects();
     void SetPrompt(const QString& prompt);
 
+    // mainwindow/: news for a screen reader. A routine tells what happens where it happens, and announces all that was
+    // told, together with the prompt, when it is done.
+    void Tell(const QString& sentence);
+    void AnnounceNews();
+
     // mainwindow/: keyboard. The grid, the roll button and the new-game button are one stop of the Tab key each.
     void FollowFocus(); // a screen reader moves the focus without a key
     PictureButton& CurrentCell() const;
@@ -131,6 +136,7 @@ private:
     QMargins frame_;
     QSize tooSmall_;           // the client area that was last enlarged
     CellPosition currentCell_; // where the keyboard is in the grid
+    QString news_;             // told and not yet announced
 
     PictureList imageList1_;
     PictureList imageList2_;

@@ -3,11 +3,15 @@
 
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
+#include "mainwindow/SpokenNames.h"
 
+#include <QAction>
 #include <QKeyEvent>
 
 #include <algorithm>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,6 +29,11 @@ void Form1::mousePressEvent(QMouseEvent* event) {
 
 void Form1::keyPressEvent(QKeyEvent* event) {
     if ((event->modifiers() & ~Qt::KeypadModifier) != 0) {
+        // Only a disabled entry leaves its shortcut alone.
+        if (mnuGameRoll_->shortcut() == QKeySequence(event->keyCombination()) && !event->isAutoRepeat()) {
+            Tell(board_.IsFull() ? u"The game is over"_s : SpokenNames::Waiting(pendingRoll_));
+            AnnounceNews();
+        }
         QMainWindow::keyPressEvent(event);
         return;
     }

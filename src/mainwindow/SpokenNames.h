@@ -30,7 +30,14 @@ QString Die(const QString& ordinal, std::int16_t pips);
 // "Sum of the roll: 7", or "No roll" for 0.
 QString Roll(RollValue sum);
 
+// "7 to place".
+QString Waiting(RollValue sum);
+
 // "Rank 2: 90 points, 2026/11/15 0:59", or "Rank 5: 0 points" without a text.
 QString Rank(std::int16_t rank, const HighScoreEntry& entry);
+
+// What happened: "3 and 4: 7", "7 in row 2, column 4".
+QString Thrown(std::int16_t firstDie, std::int16_t secondDie);
+QString Placed(std::int16_t row, std::int16_t column, RollValue value);
 
 } // namespace SpokenNames

@@ -15,6 +15,8 @@ struct BoardLine {
 
     Kind kind;
     std::int16_t number; // 1..5
+
+    bool Holds(const CellPosition& cell) const { return (kind == Kind::Row ? cell.row : cell.column) == number; }
 };
 
 // Rows 1 to 5, then columns 1 to 5: the order in which they are scored.

@@ -13,11 +13,16 @@
 
 void Form1::UpdateScores() {
     std::int16_t total = 0;
+    bool isLineFinished = false;
     for (const LineControls& controls : lines_) {
         const auto score = ScoreLine(controls.line, board_);
         if (score) {
             controls.readOut->SetCaption(QString::number(*score));
             controls.readOut->setAccessibleName(SpokenNames::Line(controls.line, *score));
+            if (controls.line.Holds(currentCell_)) {
+                isLineFinished = true;
+                Tell(controls.readOut->accessibleName());
+            }
         }
         controls.readOut->setVisible(score.has_value());
         controls.marker->setVisible(score.has_value());
@@ -28,10 +33,14 @@ void Form1::UpdateScores() {
     lblTotal_->setAccessibleName(SpokenNames::Total(total));
 
     if (!board_.IsFull()) {
+        if (isLineFinished) {
+            Tell(SpokenNames::Total(total));
+        }
         SetPrompt(Prompts::roll);
         return;
     }
     SetPrompt(Prompts::over);
+    Tell(SpokenNames::Total(total));
     imgNewGame_->setFocus();
     image1_->hide();
     mnuGameRoll_->setEnabled(false);
