@@ -7,33 +7,24 @@
 
 #include <algorithm>
 
-// A pattern in the steps from each of five sums, in order of size, to the next; the points; the hand's name and rule.
-using Worth = std::tuple<const char*, int, const char*, const char*>;
-
-inline const QList<Worth> worths{{"0000", 50, "Five of a Kind", "Five rolls with the same number"},
-                                 {"1111", 40, "Large Straight", "Five rolls in numeric sequence"},
-                                 {"10*10*1", 30, "Small Straight", "Four rolls in numeric sequence"},
-                                 {"00[^0]0|0[^0]00", 25, "Full House", "One pair and one Three of a Kind"},
-                                 {"000", 20, "Four of a Kind", "Four rolls with the same number"},
-                                 {"0[^0]+0", 15, "Two Pair", "Two sets of two rolls with the same number"},
-                                 {"00", 10, "Three of a Kind", "Three rolls with the same number"},
-                                 {"0", 5, "Pair", "Two rolls with the same number"},
-                                 {"", 0, "No hand", ""}};
+// Points and name of a hand, by how often each of a line's sums is there, most often first, or by how many of them
+// follow one another.
+inline const QString worths =
+    "|5=50 Five of a Kind|run of 5=40 Large Straight|run of 4=30 Small Straight|32=25 Full House|41=20 Four of a Kind|"
+    "221=15 Two Pair|311=10 Three of a Kind|2111=5 Pair|11111=0 No hand|";
 
 using Sums = QList<std::int16_t>; // of two dice; 0 for an empty cell
 
-inline Worth WorthOf(Sums line) {
-    std::ranges::sort(line);
-    QString steps;
-    for (int at = 1; at < 5; ++at) {
-        steps += QString::number(qMin(9, line[at] - line[at - 1]));
+inline QString WorthOf(const Sums& line) {
+    QString counts, present;
+    for (std::int16_t sum = 2; sum <= 12; ++sum) {
+        const auto count = line.count(sum);
+        present += count > 0 ? 'x' : ' ';
+        counts += count > 0 ? QString::number(count) : "";
     }
-    const auto holds = [&](const Worth& worth) { return steps.contains(QRegularExpression(std::get<0>(worth))); };
-    static QHash<QString, Worth> known; // a pattern takes its time
-    if (!known.contains(steps)) {
-        known[steps] = *std::ranges::find_if(worths, holds);
-    }
-    return known[steps];
+    std::ranges::sort(counts, std::greater());
+    const QString key = present.contains("xxxxx") ? "run of 5" : present.contains("xxxx") ? "run of 4" : counts;
+    return worths.section('|' + key + '=', 1).section('|', 0, 0);
 }
 
 // The rules of the game told a second time, with nothing of the game's own code. Cells are counted from 0, row by row,
@@ -59,38 +50,15 @@ protected:
         static const QMap<QString, QString> entries{{"Image1", "mnuGameRoll"}, {"imgNewGame", "mnuNewGame"},
                                                     {"Ctrl+R", "mnuGameRoll"}, {"Ctrl+N", "mnuNewGame"},
                                                     {"Ctrl+Q", "mnuGameExit"}, {"F1", "mnuHelpHow"}};
-        const bool isEnter = IsOneOf(word, "Space Return Enter");
+        const QString focused = IsDialogOpen() ? dialogs[open_][1 + button_] : Focused();
+        const QString control = IsOneOf(word, "Space Return Enter") ? focused : word;
+        const QString name = entries.value(control, control);
         if (IsDialogOpen()) {
-            Answer(isEnter ? dialogs[open_][1 + button_] : word);
-        } else {
-            const QString name = isEnter ? Focused() : word;
-            Act(entries.value(name, name));
-        }
-    }
-
-    QStringList See() const override {
-        QString list;
-        for (const auto& [score, text] : table_) {
-            list += QString("%1  %2|").arg(score).arg(text);
-        }
-        const QString open = dialogs.value(open_, {""}).first() + (open_ == "mnuGameHigh" ? list : "");
-        return QStringList{"prompt " + prompt_,  QString("menu %1").arg(CanRoll()),
-                           "focus " + Focused(), "table " + list,
-                           "store " + store_,    "open " + open}
-               + SeeTable() + SeeStrip();
-    }
-
-private:
-    static bool IsOneOf(const QString& word, const QString& words) { return words.split(' ').contains(word); }
-    static QString Name(int cell) { return QString("img%1_%2").arg(cell / 5 + 1).arg(cell % 5 + 1); }
-
-    bool IsFull() const { return !board_.contains(0); }
-    bool CanRoll() const { return pending_ == 0 && !IsFull(); }
-    QString Focused() const { return focus_ == "grid" ? Name(current_) : focus_; }
-
-    void Act(const QString& name) {
-        if (name == "mnuGameRoll" && CanRoll()) {
+            Answer(control);
+        } else if (name == "mnuGameRoll" && CanRoll()) {
             Roll();
+        } else if (control == "Ctrl+R") {
+            Announce(IsFull() ? "The game is over." : QString("%1 to place.").arg(pending_));
         } else if (name == "mnuNewGame" && IsFull()) {
             NewGame();
         } else if (dialogs.contains(name)) {
@@ -104,17 +72,34 @@ private:
         }
     }
 
+    QStringList See() const override {
+        QString open = dialogs.value(open_, {""}).first() + (open_ == "mnuGameHigh" ? title_ : "");
+        for (const auto& [score, text] : open_ == "mnuGameHigh" ? table_ : Table()) {
+            open += QString("%1  %2|").arg(score).arg(text);
+        }
+        const QString canRoll = CanRoll() ? "yes" : "no";
+        return QStringList{"prompt " + prompt_,  "said " + said_.trimmed(), "menu " + canRoll,
+                           "focus " + Focused(), "store " + store_,         "open " + open}
+               + SeeGrid() + SeeStrip();
+    }
+
+private:
+    static bool IsOneOf(const QString& word, const QString& words) { return words.split(' ').contains(word); }
+    static QString Name(int cell) { return QString("img%1_%2").arg(cell / 5 + 1).arg(cell % 5 + 1); }
+
+    bool IsFull() const { return !board_.contains(0); }
+    bool CanRoll() const { return pending_ == 0 && !IsFull(); }
+    QString Focused() const { return focus_ == "grid" ? Name(current_) : focus_; }
+
     void Move(const QString& key) {
-        const int row = current_ / 5 * 5;
-        const QMap<QString, int> targets{
-            {"Left", row + (current_ + 4) % 5},  {"Up", (current_ + 20) % 25},  {"Home", row},
-            {"Right", row + (current_ + 1) % 5}, {"Down", (current_ + 5) % 25}, {"End", row + 4},
-            {"Num+Up", (current_ + 20) % 25}};
+        const int row = current_ / 5 * 5, up = (current_ + 20) % 25, down = (current_ + 5) % 25;
+        const QList<int> targets{row + (current_ + 4) % 5, row + (current_ + 1) % 5, up, up, down, row, row + 4};
+        const auto target = QString("Left Right Up Num+Up Down Home End").split(' ').indexOf(key);
         const QStringList stops = QString(CanRoll() ? "grid Image1 imgNewGame" : "grid imgNewGame").split(' ');
         if (IsOneOf(key, "Tab Shift+Tab")) {
             focus_ = stops[(stops.indexOf(focus_) + (key == "Tab" ? 1 : stops.size() - 1)) % stops.size()];
-        } else if (targets.contains(key) && std::exchange(focus_, "grid") == "grid") {
-            current_ = targets[key];
+        } else if (target >= 0 && std::exchange(focus_, "grid") == "grid") {
+            current_ = targets[target];
         }
     }
 
@@ -122,6 +107,7 @@ private:
         open_ = entry;
         button_ = 0;
         if (entry == "mnuGameHigh") {
+            title_ = std::exchange(news_, {}) + "High Scores";
             Load();
         }
         InDialog();
@@ -129,14 +115,14 @@ private:
 
     void Answer(const QString& word) {
         const QStringList buttons = dialogs[open_].sliced(1);
+        const bool isEscape = word == "Escape" && !IsOneOf(open_, "mnuGameHigh mnuHelpHow");
         if (IsOneOf(word, "Tab Shift+Tab Left Right Up Down")) {
             button_ = (button_ + 1) % int(buttons.size());
-        }
-        const bool isEscape = word == "Escape" && !IsOneOf(open_, "mnuGameHigh mnuHelpHow");
-        if (isEscape || word == "close" || buttons.contains(word)) {
+        } else if (isEscape || word == "close" || buttons.contains(word)) {
             const QString entry = std::exchange(open_, QString());
             if (word == "CancelButton") {
-                Save(Table(5));
+                store_ = StoreOf(Table(5));
+                Announce("The scores are reset.");
             } else if (word == "Yes" && entry == "mnuNewGame") {
                 NewGame();
             } else if (word == "Yes") {
@@ -149,7 +135,11 @@ private:
         board_ = Sums(25);
         current_ = 0;
         Clear();
+        Announce("New game. " + prompt_);
     }
+
+    // Everything that is new since the last time.
+    void Announce(const QString& last) { said_ = std::exchange(news_, {}) + last; }
 
     // No roll is pending: what both a new game and a placement do.
     void Clear() {
@@ -168,29 +158,42 @@ private:
         seed_ = ReadClock().time().second();
         faces_ = dice_;
         pending_ = dice_[0] + dice_[1];
+        news_ += QString("%1 and %2: %3. ").arg(dice_[0]).arg(dice_[1]).arg(pending_);
+        const bool pauses = underWay_ < 64;
+        ++underWay_;
         for (const int die : {0, 1}) {
             isDieShown_[die] = true;
-            passes_ = underWay_ < 64 ? die * pause + 1 : 0;
-            if (underWay_ < 64) {
-                ++underWay_;
-                InPause(die + 1);
-                --underWay_;
-            }
+            passes_ = pauses ? die * pause + 1 : 0;
+            InPause(pauses ? die + 1 : 0);
         }
-        passes_ = underWay_ < 64 ? 2 * pause : 0;
+        --underWay_;
+        passes_ = pauses ? 2 * pause : 0;
         sum_ = QString("= %1").arg(pending_);
         prompt_ = "Select A Location for the Roll on the Grid";
+        Announce(news_.isEmpty() ? said_ : prompt_);
     }
 
     void Put(int cell) {
         if (pending_ > 0 && board_[cell] == 0) {
             board_[cell] = std::int16_t(pending_);
             current_ = cell;
+            news_ += QString("%1 in row %2, column %3. ").arg(pending_).arg(cell / 5 + 1).arg(cell % 5 + 1);
             Clear();
+            const QString lines = Spoken(cell / 5) + Spoken(5 + cell % 5), over = IsFull() ? prompt_ + ' ' : "";
+            news_ += lines + over + (lines.isEmpty() ? "" : QString("Total: %1 points. ").arg(Total()));
             if (IsFull()) {
                 Record();
             }
+            Announce(news_.isEmpty() ? said_ : IsFull() ? "" : prompt_);
+        } else {
+            Announce(board_[cell] > 0 ? "This cell is filled." : "There is no roll to place.");
         }
+    }
+
+    // What a complete line is worth.
+    QString Spoken(int line) const {
+        const QString name = QString(line < 5 ? "Row %1" : "Column %1").arg(line % 5 + 1);
+        return Score(line).replace(QRegularExpression("^(\\d+) (.+)"), name + ": \\1 points, \\2. ");
     }
 
     void Record() {
@@ -202,8 +205,10 @@ private:
             }
             table_.last() = {Total(), text};
             std::ranges::stable_sort(table_, std::greater(), &Table::value_type::first);
+            const auto isAbove = [this](const auto& entry) { return entry.first >= Total(); };
+            news_ += QString("Rank %1. ").arg(std::ranges::count_if(table_, isAbove));
         }
-        Save(table_);
+        store_ = StoreOf(table_);
         if (isEntered) {
             Show("mnuGameHigh");
         }
@@ -218,81 +223,78 @@ private:
         }
     }
 
-    void Save(const Table& table) { store_ = StoreOf(table); }
-
     // No hand at all while one of the line's cells is empty.
-    Worth Score(int line) const {
+    QString Score(int line) const {
         Sums sums;
         for (int step = 0; step < 5; ++step) {
             sums << board_[line < 5 ? 5 * line + step : 5 * step + line - 5];
         }
-        return sums.contains(0) ? Worth("", 0, "", "") : WorthOf(sums);
+        return sums.contains(0) ? QString() : WorthOf(sums);
     }
 
     int Total() const {
         int total = 0;
         for (int line = 0; line < 10; ++line) {
-            total += std::get<int>(Score(line));
+            total += Score(line).section(' ', 0, 0).toInt();
         }
         return total;
     }
 
-    // Places are told in twips, fifteen to the pixel.
+    // Places are told in twips, fifteen to the pixel; lines are drawn on whole pixels.
     double Across() const { return (outer_.width() * 15 - 240) / 6.0; }
     double Bar() const { return outer_.height() * 15 - 2500; }
     double Left(int column) const { return 240 + column * (Across() - 160); }
     double Top(int row) const { return 360 + row * (Bar() / 6 - 80); }
-    static QString Line(const QString& name, const QRectF& twips, const QString& state) {
-        return name + ' ' + Place(twips, 15) + ' ' + state;
-    }
     static double Whole(double twips) { return qRound(twips / 15) * 15.0; }
+    static QString At(const QRectF& twips, const QString& name, const QString& state) {
+        return (name + ' ' + Place(twips, 15) + ' ' + state).trimmed();
+    }
 
-    QStringList SeeTable() const {
+    QStringList SeeGrid() const {
         QStringList seen;
         for (int cell = 0; cell < 25; ++cell) {
             const QString value = board_[cell] > 0 ? QString::number(board_[cell]) : "empty";
             const QString spoken = QString("%1 Row %2, column %3: ").arg(qMax<int>(1, board_[cell])).arg(cell / 5 + 1);
-            seen << Line(Name(cell), {Left(cell % 5), Top(cell / 5), 750, 750}, spoken.arg(cell % 5 + 1) + value);
+            seen << At({Left(cell % 5), Top(cell / 5), 750, 750}, Name(cell), spoken.arg(cell % 5 + 1) + value);
         }
+        const double right = Left(4), lowest = Top(4);
         for (int at = 0; at < 5; ++at) {
-            const double drop = QList<double>{240, 160, 80, 0, -60}[at];
-            const double rowMiddle = at == 0 ? 720 : Whole(Top(at) + 375), rowEnd = at == 0 ? 480 : 600;
-            const double middle = at == 0 ? 585 : Left(at) + 375;
-            seen += SeeLine(at, {5 * Across() - 260, 360 + at * Bar() / 6 + drop, 495, 255},
-                            {Left(4) + 600, Top(at), 480, 720}, {rowEnd, rowMiddle - 60, Whole(Left(4)) - rowEnd, 120});
-            seen += SeeLine(5 + at, {Left(at), 5 * Bar() / 6 + 435, 735, 255},
-                            {at == 0 ? 240 : middle - 360, Top(4) + 600, 720, 600},
-                            {Whole(middle) - 60, 720, 120, Whole(Top(4)) - 720});
+            const double x = at == 0 ? 585 : Left(at) + 375, y = at == 0 ? 720 : Top(at) + 375;
+            const double from = at == 0 ? 480 : 600, drop = QList<double>{240, 160, 80, 0, -60}[at];
+            seen += SeeLine(at, QString("_row%1").arg(at + 1),
+                            {{5 * Across() - 260, 360 + at * Bar() / 6 + drop, 495, 255},
+                             {right + 600, Top(at), 480, 720},
+                             {from, Whole(y) - 60, Whole(right) - from, 120}});
+            seen += SeeLine(5 + at, QString("_col%1").arg(at + 1),
+                            {{Left(at), 5 * Bar() / 6 + 435, 735, 255},
+                             {at == 0 ? 240 : x - 360, lowest + 600, 720, 600},
+                             {Whole(x) - 60, 720, 120, Whole(lowest) - 720}});
         }
         return seen;
     }
 
-    QStringList SeeLine(int line, const QRectF& readOut, const QRectF& marker, const QRectF& strike) const {
-        const auto [steps, points, hand, rule] = Score(line);
-        const bool isHidden = *hand == 0;
-        const QString kind = line < 5 ? "Row" : "Column", number = QString::number(line % 5 + 1);
-        const QString name = "_" + kind.left(3).toLower() + number;
-        const QString spoken = QString("%1 %2 %3: %1 points, %4").arg(points).arg(kind, number, hand);
-        return {Line("lbl" + name, readOut, isHidden ? "hidden" : spoken),
-                Line("img" + name, marker, isHidden ? "hidden" : "1"),
-                Line("lin" + name, strike, isHidden ? "hidden" : "")};
+    QStringList SeeLine(int line, const QString& name, const QList<QRectF>& places) const {
+        const QString points = Score(line).section(' ', 0, 0);
+        const QStringList seen{At(places[0], "lbl" + name, points + ' ' + Spoken(line).section('.', 0, 0)),
+                               At(places[1], "img" + name, "1"), At(places[2], "lin" + name, "")};
+        return points.isEmpty() ? QStringList() : seen;
     }
 
     QStringList SeeStrip() const {
-        const auto die = [this](int at, const QString& nth) {
-            const QString spoken = QString("%1 %2 die: %1").arg(faces_[at]).arg(nth);
-            return Line(QString("imgRolled%1").arg(at + 1), {240.0 + 840 * at, Bar() + 200, 750, 750},
-                        isDieShown_[at] ? spoken : "hidden");
-        };
         const QString spokenSum = sum_.isEmpty() || sum_ == "= 0" ? " No roll" : " Sum of the roll: " + sum_.sliced(2);
         const QString total = QString("%1 Total: %1 points").arg(Total());
-        return {die(0, "First"),
-                die(1, "Second"),
-                Line("lblRolled", {2040, Bar() + 200, 1305, 825}, (sum_ + spokenSum).trimmed()),
-                Line("lblTotal", {5 * Across() - 260, 5 * Bar() / 6 + 360, 1095, 495}, total),
-                Line("Line1", {0, Whole(Bar()) - 30, outer_.width() * 15.0, 60}, ""),
-                Line("Image1", {0, Bar() + 100, 2955, 1125}, CanRoll() ? "1 Roll Dice" : "hidden"),
-                Line("imgNewGame", {qMax(Left(4) - 2205, 3055.0), Bar() + 100, 2955, 1125}, "1 New Game")};
+        QStringList seen(CanRoll() ? 1 : 0, At({0, Bar() + 100, 2955, 1125}, "Image1", "1 Roll Dice"));
+        seen += {At({2040, Bar() + 200, 1305, 825}, "lblRolled", sum_ + spokenSum),
+                 At({5 * Across() - 260, 5 * Bar() / 6 + 360, 1095, 495}, "lblTotal", total),
+                 At({0, Whole(Bar()) - 30, outer_.width() * 15.0, 60}, "Line1", ""),
+                 At({qMax(Left(4) - 2205, 3055.0), Bar() + 100, 2955, 1125}, "imgNewGame", "1 New Game")};
+        const auto nth = [](int die) { return QStringList{"First", "Second"}[die]; };
+        for (const int die : {0, 1}) {
+            seen << At({240.0 + 840 * die, Bar() + 200, 750, 750}, QString("imgRolled%1").arg(die + 1),
+                       QString("%1 %2 die: %1").arg(faces_[die]).arg(nth(die)));
+            seen.resize(isDieShown_[die] ? seen.size() : seen.size() - 1);
+        }
+        return seen;
     }
 
     static constexpr QSize floor{418, 541};
@@ -309,7 +311,7 @@ private:
     QList<int> faces_;
     QList<bool> isDieShown_;
     int pending_ = 0, current_ = 0, button_ = 0, underWay_ = 0;
-    QString prompt_, sum_, open_, focus_, store_;
+    QString said_, news_, title_, prompt_, sum_, open_, focus_, store_;
     QSize outer_;
     Table table_;
 };

@@ -7,7 +7,6 @@
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
 
-#include <QtTest>
 #include <QtWidgets>
 
 // Does the words with the real window, by its mouse and keys, on the stand-in machine.
@@ -28,28 +27,26 @@ public:
 
 protected:
     void Start() override {
+        const auto clock = [this](const char* field) {
+            return [this, field] { return ReadClock().toString(field).toInt(); };
+        };
         window_.reset();
-        window_ = std::make_unique<Form1>(Platform{
-            .year = [this] { return ReadClock().date().year(); },
-            .month = [this] { return ReadClock().date().month(); },
-            .day = [this] { return ReadClock().date().day(); },
-            .hour = [this] { return ReadClock().time().hour(); },
-            .minute = [this] { return ReadClock().time().minute(); },
-            .second = [this] { return ReadClock().time().second(); },
-            .reseed = [this](int seconds) { seed_ = seconds, passes_ = 0; },
-            .nextUniform = [this] { return Uniform(dice_[draws_++ % 2]); },
-            .pumpEvents = [this] { Pass(); },
-            .endProcess = [this] { hasEnded_ = true; },
-            .store = SettingsStore(storeName_),
-        });
+        window_ = std::make_unique<Form1>(Platform{.year = clock("yyyy"),
+                                                   .month = clock("M"),
+                                                   .day = clock("d"),
+                                                   .hour = clock("H"),
+                                                   .minute = clock("m"),
+                                                   .second = clock("s"),
+                                                   .reseed = [this](int seconds) { seed_ = seconds, passes_ = 0; },
+                                                   .nextUniform = [this] { return Uniform(dice_[draws_++ % 2]); },
+                                                   .pumpEvents = [this] { Pass(); },
+                                                   .endProcess = [this] { hasEnded_ = true; },
+                                                   .store = SettingsStore(storeName_)});
         window_->show();
         QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
     }
 
-    void SetStore(const QString& content) override {
-        QFile file(storeName_);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content.toUtf8()) > 0);
-    }
+    void SetStore(const QString& content) override { Replace(storeName_, content.toUtf8()); }
 
     void Resize(const QSize& outer) override {
         window_->resize(outer.shrunkBy(window_->windowHandle()->frameMargins()));
@@ -59,11 +56,10 @@ protected:
 
     void Press(const QString& word) override {
         QWidget& window = IsDialogOpen() ? *QApplication::activeModalWidget() : *window_;
-        const QWidget* control = window.findChild<QWidget*>(word);
+        const auto* control = window.findChild<QWidget*>(word);
         for (const auto* button : window.findChildren<QPushButton*>()) {
             control = button->text() == "&" + word ? button : control;
         }
-        const QKeySequence keys(word);
         if (word == "close") {
             window.close();
         } else if (auto* entry = window.findChild<QAction*>(word)) {
@@ -71,35 +67,31 @@ protected:
         } else if (control != nullptr) {
             const QPoint middle = control->mapTo(&window, control->rect().center());
             QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, middle);
-        } else if (!keys.isEmpty() && keys[0].key() != Qt::Key_unknown) {
-            window.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&window));
-            QTest::keyClick(window.windowHandle(), keys[0].key(), keys[0].keyboardModifiers());
+        } else if (const QKeySequence keys(word); !keys.isEmpty() && keys[0].key() != Qt::Key_unknown) {
+            Press(*window.windowHandle(), keys[0]);
         }
     }
 
     QStringList See() const override {
-        QString table, open;
-        for (std::int16_t rank = 1; rank <= 5; ++rank) {
-            table += window_->HighScores().Caption(rank) + '|';
-        }
+        QString open;
         if (const QWidget* dialog = QApplication::activeModalWidget()) {
-            open = dialog->objectName();
-            for (const auto* label :
-                 dialog->findChildren<QLabel*>(QRegularExpression("lblHighScore|qt_msgbox_label"))) {
+            open = dialog->objectName() + dialog->accessibleName();
+            for (const auto* label : dialog->findChildren<QLabel*>(QRegularExpression("High|msgbox_label"))) {
                 open += label->text() + '|';
             }
         }
-        QFile file(storeName_);
-        const QString store = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        QStringList seen{"prompt " + window_->statusBar()->findChild<QLabel*>()->text(),
-                         QString("menu %1").arg(Find<QAction>("mnuGameRoll").isEnabled()),
-                         "focus " + window_->focusWidget()->objectName(),
-                         "table " + table,
-                         "store " + store,
-                         "open " + open};
+        const QString store = Bytes(storeName_);
+        const QString canRoll = Find<QAction>("mnuGameRoll").isEnabled() ? "yes" : "no";
+        const auto* prompt = window_->statusBar()->findChild<QLabel*>();
+        QStringList seen{"prompt " + prompt->text(), "said " + prompt->accessibleName(),
+                         "menu " + canRoll,          "focus " + window_->focusWidget()->objectName(),
+                         "store " + store,           "open " + open};
         for (const auto* control : window_->centralWidget()->findChildren<QWidget*>()) {
-            seen << control->objectName() + ' ' + Place(control->geometry()) + ' ' + State(*control);
+            const auto* picture = dynamic_cast<const PictureFace*>(control);
+            const auto* label = qobject_cast<const QLabel*>(control);
+            const QString shown = picture ? QString::number(picture->Index()) : label ? label->text() : "";
+            const QStringList look{control->objectName(), Place(control->geometry()), shown, control->accessibleName()};
+            seen += control->isHidden() ? QStringList() : QStringList(look.join(' ').trimmed());
         }
         return seen;
     }
@@ -124,11 +116,16 @@ private:
         }
     }
 
-    static QString State(const QWidget& control) {
-        const auto* picture = dynamic_cast<const PictureFace*>(&control);
-        const auto* label = qobject_cast<const QLabel*>(&control);
-        const QString shown = picture ? QString::number(picture->Index()) : label ? label->text() : "";
-        return control.isHidden() ? "hidden" : (shown + ' ' + control.accessibleName()).trimmed();
+    // Enter is held for a while, which is not to be seen; a dialog is gone before.
+    void Press(QWindow& window, QKeyCombination key) {
+        window.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const bool isHeld = key.key() == Qt::Key_Return && !IsDialogOpen();
+        QTest::keyPress(&window, key.key(), key.keyboardModifiers());
+        for (const bool isDown : isHeld ? QList{false, true} : QList<bool>()) {
+            QTest::simulateEvent(&window, isDown, Qt::Key_Return, {}, "", true);
+        }
+        QTest::keyRelease(&window, key.key(), key.keyboardModifiers());
     }
 
     QTemporaryDir folder_;

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore>
+#include <QtTest>
 
 // Scores with the texts beside them, best first.
 using Table = QList<std::pair<int, QString>>;
@@ -12,6 +12,16 @@ using Table = QList<std::pair<int, QString>>;
 inline QString Place(const QRectF& place, int unit = 1) {
     const auto in = [=](double length) { return QString::number(qRound(length / unit)); };
     return in(place.x()) + ' ' + in(place.y()) + ' ' + in(place.width()) + ' ' + in(place.height());
+}
+
+inline QByteArray Bytes(const QString& fileName) {
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline void Replace(const QString& fileName, const QByteArray& bytes) {
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
 // Takes what a player does, word by word, and says before each, and at the end, what is to be seen.
@@ -79,9 +89,7 @@ private:
     void DoNext() {
         const QString word = words_.takeFirst();
         Note("before " + word);
-        ++depth_;
         Do(word.startsWith("1:") || word.startsWith("2:") ? word.sliced(2) : word);
-        --depth_;
     }
 
     void Note(const QString& when) {
@@ -96,7 +104,7 @@ private:
         if (word.startsWith("copy:")) {
             SetStore(StoreOf(
                 {{second, "a, \"b\""}, {second - 1, "c;"}, {second - 2, "\\e"}, {second - 3, "@"}, {second - 4, ""}}));
-        } else if (word == "again" && depth_ == 1) {
+        } else if (word == "again" && !IsDialogOpen()) {
             hasEnded_ = false;
             Start();
         } else if (first > 0 && word.contains('+')) {
@@ -109,6 +117,5 @@ private:
     }
 
     QStringList words_, told_;
-    int depth_ = 0;
     QDateTime clock_{{2026, 12, 31}, {20, 58, 59}};
 };
