@@ -58,7 +58,7 @@ protected:
         } else if (name == "mnuGameRoll" && CanRoll()) {
             Roll();
         } else if (control == "Ctrl+R") {
-            Announce(IsFull() ? "The game is over." : QString("%1 to place.").arg(pending_));
+            said_ = IsFull() ? "The game is over." : QString("%1 to place.").arg(pending_);
         } else if (name == "mnuNewGame" && IsFull()) {
             NewGame();
         } else if (dialogs.contains(name)) {
@@ -186,7 +186,7 @@ private:
             }
             Announce(news_.isEmpty() ? said_ : IsFull() ? "" : prompt_);
         } else {
-            Announce(board_[cell] > 0 ? "This cell is filled." : "There is no roll to place.");
+            said_ = board_[cell] > 0 ? "This cell is filled." : "There is no roll to place.";
         }
     }
 

@@ -54,6 +54,10 @@ void FitCaption(QPushButton& button) {
 
 } // namespace
 
+bool IsDialogOpen() {
+    return QApplication::activeModalWidget() != nullptr;
+}
+
 GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSize& clientSize) {
     setObjectName(name);
     setWindowTitle(caption);
@@ -63,7 +67,7 @@ GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSiz
 }
 
 void GreenDialog::ShowModal(const QWidget& window) {
-    if (QApplication::activeModalWidget() != nullptr) {
+    if (IsDialogOpen()) {
         return;
     }
     // Before there is a native window, whose client area later moves would place. The dialog's frame is going to be

@@ -15,6 +15,10 @@
 class Label;
 class QPushButton;
 
+// Whether a dialog or a question is open. What it covers can still be pressed through the accessibility bus, so
+// whatever opens one asks first: they must not pile up.
+bool IsDialogOpen();
+
 // What the game's fixed green dialogs share: a client area of a fixed size with controls at fixed places, in
 // pixels at 96 dots per inch, shown modally in the middle of the screen. A dialog is made for each showing
 // and unloaded with it.

@@ -5,19 +5,18 @@
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmHelp.h"
 #include "mainwindow/Form1.h"
+#include "mainwindow/SpokenNames.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Yes or no; no as well while another dialog is open: what that one covers can still be pressed through the
-// accessibility bus, and dialogs must not pile up.
+// Yes or no; no as well while another dialog is open.
 bool Confirm(QWidget* window, const QString& question) {
-    if (QApplication::activeModalWidget() != nullptr) {
+    if (IsDialogOpen()) {
         return false;
     }
     QMessageBox box(QMessageBox::NoIcon, u"Kelvaro"_s, question, QMessageBox::Yes | QMessageBox::No, window);
@@ -36,7 +35,7 @@ void Form1::Form_Load() {
 void Form1::StartNewGame() {
     board_.Clear();
     pendingRoll_ = 0;
-    Tell(u"New game"_s);
+    Tell(SpokenNames::newGame);
     UpdateScores();
     for (const auto [row, column] : boardCells) {
         ShowCell(Cell(row, column), row, column);

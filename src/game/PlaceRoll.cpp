@@ -7,12 +7,9 @@
 
 #include <QAction>
 
-using namespace Qt::StringLiterals;
-
 void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column) {
     if (board_.At(row, column) != 0 || pendingRoll_ == 0) {
-        Tell(board_.At(row, column) != 0 ? u"This cell is filled"_s : u"There is no roll to place"_s);
-        AnnounceNews();
+        Refuse(board_.At(row, column) != 0 ? SpokenNames::filled : SpokenNames::noRoll);
         return;
     }
     // Before the scoring, which takes rolling away again when the board is full.
@@ -22,7 +19,7 @@ void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column
 
     board_.Set(row, column, pendingRoll_);
     ShowCell(cell, row, column);
-    currentCell_ = {row, column};
+    currentCell_ = {row, column}; // also where the scoring looks for lines that are now finished
     Tell(SpokenNames::Placed(row, column, pendingRoll_));
     pendingRoll_ = 0;
     ShowSum(QString());

@@ -4,10 +4,9 @@
 #include "highscores/DateTimeText.h"
 #include "highscores/frmHighScores.h"
 #include "mainwindow/Form1.h"
+#include "mainwindow/SpokenNames.h"
 
 #include <utility>
-
-using namespace Qt::StringLiterals;
 
 void Form1::LoadHighScores() {
     highScores_.Load(platform_.store);
@@ -22,7 +21,7 @@ void Form1::RecordHighScore(std::int16_t score) {
     // On disk before anything else happens, so that no end of the program can lose the round.
     SaveHighScores();
     if (rank) {
-        Tell(u"Rank %1"_s.arg(*rank));
+        Tell(SpokenNames::Entered(*rank));
         ShowHighScores();
     }
 }
@@ -33,12 +32,15 @@ void Form1::mnuGameHigh_Click() {
 }
 
 void Form1::ShowHighScores() {
+    if (IsDialogOpen()) {
+        return; // the news of the round are left to be announced
+    }
     frmHighScores dialog(highScores_, platform_.store);
     // With the dialog's name, because news that are announced now would be heard after all that stands in it.
     dialog.setAccessibleName(std::exchange(news_, {}) + dialog.windowTitle());
     dialog.ShowModal(*this);
     if (dialog.HasReset()) {
-        Tell(u"The scores are reset"_s);
+        Tell(SpokenNames::reset);
         AnnounceNews();
     }
 }

@@ -73,3 +73,7 @@ void Form1::AnnounceNews() {
         Announce(*prompt_, std::exchange(news_, {}).trimmed());
     }
 }
+
+void Form1::Refuse(const QString& reason) {
+    Announce(*prompt_, reason + u'.');
+}

@@ -37,8 +37,8 @@ public:
     const Board& GameBoard() const { return board_; }
     const HighScoreTable& HighScores() const { return highScores_; }
 
-    // Offers the pending roll to an empty cell, which `cell` shows; does nothing when the cell is filled or
-    // no roll is pending. Throws SubscriptError unless row and column lie in 1..5.
+    // Offers the pending roll to an empty cell, which `cell` shows; changes nothing, and tells a screen reader why,
+    // when the cell is filled or no roll is pending. Throws SubscriptError unless row and column lie in 1..5.
     void PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column);
 
 protected:
@@ -108,6 +108,7 @@ private:
     // told, together with the prompt, when it is done.
     void Tell(const QString& sentence);
     void AnnounceNews();
+    void Refuse(const QString& reason); // at once; what is told and not yet announced waits
 
     // mainwindow/: keyboard. The grid, the roll button and the new-game button are one stop of the Tab key each.
     void FollowFocus(); // a screen reader moves the focus without a key

@@ -31,8 +31,7 @@ void Form1::keyPressEvent(QKeyEvent* event) {
     if ((event->modifiers() & ~Qt::KeypadModifier) != 0) {
         // Only a disabled entry leaves its shortcut alone.
         if (mnuGameRoll_->shortcut() == QKeySequence(event->keyCombination()) && !event->isAutoRepeat()) {
-            Tell(board_.IsFull() ? u"The game is over"_s : SpokenNames::Waiting(pendingRoll_));
-            AnnounceNews();
+            Refuse(board_.IsFull() ? SpokenNames::over : SpokenNames::Waiting(pendingRoll_));
         }
         QMainWindow::keyPressEvent(event);
         return;

@@ -47,3 +47,7 @@ QString SpokenNames::Thrown(std::int16_t firstDie, std::int16_t secondDie) {
 QString SpokenNames::Placed(std::int16_t row, std::int16_t column, RollValue value) {
     return u"%1 in row %2, column %3"_s.arg(value).arg(row).arg(column);
 }
+
+QString SpokenNames::Entered(std::int16_t rank) {
+    return u"Rank %1"_s.arg(rank);
+}

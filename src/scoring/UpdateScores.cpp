@@ -19,7 +19,7 @@ void Form1::UpdateScores() {
         if (score) {
             controls.readOut->SetCaption(QString::number(*score));
             controls.readOut->setAccessibleName(SpokenNames::Line(controls.line, *score));
-            if (controls.line.Holds(currentCell_)) {
+            if (controls.line.Holds(currentCell_)) { // the cell that was just placed
                 isLineFinished = true;
                 Tell(controls.readOut->accessibleName());
             }
