@@ -16,8 +16,7 @@
 
 class QPainter;
 
-// Which picture a control shows, and how it is put on the screen: filling the control, on whole device
-// pixels.
+// Which picture a control shows, and how it is put on the screen: filling the control, on whole device pixels.
 class PictureFace {
 public:
     explicit PictureFace(QWidget* control) : control_(control) {}
@@ -53,14 +52,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-// A picture to click: with the left button, released inside the picture, or with Space or Enter. It shows faintly that
-// it is the next to be clicked, lights up under the pointer and goes down when it is pressed, but only while a click
-// would do something. Its focus is drawn from the first key on and no longer when the mouse is used. All that is laid
-// over the picture, on whole pixels of the screen.
+// A picture to click: with the left button, released inside the picture, or with Space or Enter. It shows when it is
+// the next to be clicked. While a click would do something it lights up under the pointer and, pressed, goes down or
+// darkens. Its focus is drawn from the first key on and no longer when the mouse is used. All that is laid over the
+// picture, on whole pixels of the screen.
 class PictureButton final : public QAbstractButton, public PictureFace {
 public:
-    // What lights up, in pixels: a rounded rectangle that keeps from the picture's edges, and how far it goes down when
-    // pressed. What does not go down darkens.
+    // What lights up, in pixels: a rounded rectangle that lies `margins` inside the picture, and how far it goes down
+    // when pressed. What does not go down darkens.
     struct HotArea {
         QMarginsF margins;
         qreal radius;

@@ -27,7 +27,7 @@ PictureEffects::PictureEffects(QPainter& painter, const QPixmap& face, const Pic
 }
 
 void PictureEffects::PaintNext() const {
-    if (drop_ == 0) { // a plate is light as it is
+    if (!IsPlate()) { // a plate is light as it is
         Fill(faintLight, QPainter::CompositionMode_SourceOver);
     }
     Frame(faintEdge, -edge_);
@@ -41,7 +41,7 @@ void PictureEffects::PaintHover() const {
 }
 
 void PictureEffects::PaintPressed() const {
-    if (drop_ == 0) {
+    if (!IsPlate()) {
         Fill(shade, QPainter::CompositionMode_Multiply);
         Frame(Colours::chart, -edge_);
         return;

@@ -17,10 +17,11 @@ public:
 
     void PaintNext() const;
     void PaintHover() const;
-    void PaintPressed() const;
+    void PaintPressed() const; // moves the painter along with the face
     void PaintFocus() const;
 
 private:
+    bool IsPlate() const { return drop_ > 0; } // or a cell, which stays where it is
     int Pixels(qreal design) const { return qRound(design * ratio_); }
     void Fill(const QBrush& brush, QPainter::CompositionMode mode) const;
     void Frame(const QColor& colour, int inset) const;
