@@ -31,17 +31,10 @@ protected:
             return [this, field] { return ReadClock().toString(field).toInt(); };
         };
         window_.reset();
-        window_ = std::make_unique<Form1>(Platform{.year = clock("yyyy"),
-                                                   .month = clock("M"),
-                                                   .day = clock("d"),
-                                                   .hour = clock("H"),
-                                                   .minute = clock("m"),
-                                                   .second = clock("s"),
-                                                   .reseed = [this](int seconds) { seed_ = seconds, passes_ = 0; },
-                                                   .nextUniform = [this] { return Uniform(dice_[draws_++ % 2]); },
-                                                   .pumpEvents = [this] { Pass(); },
-                                                   .endProcess = [this] { hasEnded_ = true; },
-                                                   .store = SettingsStore(storeName_)});
+        window_ = std::make_unique<Form1>(Platform{clock("yyyy"), clock("M"), clock("d"), clock("H"), clock("m"),
+                                                   clock("s"), [this](int seconds) { seed_ = seconds, passes_ = 0; },
+                                                   [this] { return Uniform(dice_[draws_++ % 2]); }, [this] { Pass(); },
+                                                   [this] { hasEnded_ = true; }, SettingsStore(storeName_)});
         window_->show();
         QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
     }

@@ -57,8 +57,6 @@ private slots:
         QTest::newRow("a reset") << "copy:400 again mnuGameHigh CancelButton " + round + "Return mnuGameHigh";
         QTest::newRow("a bad round, and another copy's") << "copy:600 again copy:700 " + round + "Ctrl+N";
         QTest::newRow("no score") << "copy:90 again copy:40000 mnuGameHigh OKButton again copy:150 mnuGameHigh";
-        QTest::newRow("in a pause")
-            << "5+6 Image1 1:img3_3 img3_4 Image1 img3_4 Ctrl+R 2:Return 2:img3_4 mnuGameRoll img3_4";
         QTest::newRow("so many rolls within rolls that the last do not pause")
             << "copy:600 again Space " + Times(3, Times(51, "1:Space")) + Times(9, "2:Space") + "1:Space 2:F1";
         QTest::newRow("the end in a pause")
