@@ -179,7 +179,9 @@ private slots:
         QTRY_VERIFY(Shown(cell) != lit);
         QTest::mouseRelease(window, Qt::LeftButton, {}, middle);
         QTRY_COMPARE(Shown(next), closed);
-        player.Tell(Times(24, "Image1 Return").split(' ', Qt::SkipEmptyParts));
+        player.Tell({"Ctrl+R", "img3_4", "Ctrl+R"});
+        QCOMPARE(next.grab().toImage(), cell.grab().toImage()); // a filled one, the pointer is over it
+        player.Tell(Times(23, "Return Image1").split(' ', Qt::SkipEmptyParts));
         QVERIFY(button.grab().toImage() != unlit);
     }
 
