@@ -3,6 +3,7 @@
 
 #include "controls/Accessibility.h"
 #include "mainwindow/Form1.h"
+#include "platform/OperatingSystem.h"
 #include "platform/Platform.h"
 
 #include <QApplication>
@@ -31,6 +32,7 @@ bool CanReadPictures() {
 } // namespace
 
 int main(int, char* argv[]) {
+    OperatingSystem::FollowDesktop();
     const QtMessageHandler standardHandler = qInstallMessageHandler(ExplainFatal);
     int noArguments = 1; // only the program's name: the game takes no command line, Qt's own options included
     QApplication application(noArguments, argv);

@@ -4,42 +4,15 @@
 #include "platform/Platform.h"
 
 #include "platform/EntropyGenerator.h"
+#include "platform/OperatingSystem.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QFile>
 
 #include <cstdlib>
 #include <memory>
 
-#include <pwd.h>
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-bool IsAbsolute(const QByteArray& path) {
-    return path.startsWith('/');
-}
-
-// A session without HOME has the folder that the user's entry in the password file names.
-QByteArray HomeFolder() {
-    if (QByteArray home = qgetenv("HOME"); IsAbsolute(home)) {
-        return home;
-    }
-    const passwd* user = getpwuid(getuid());
-    return user == nullptr ? QByteArray() : QByteArray(user->pw_dir);
-}
-
-// Not from QStandardPaths, which follows a relative XDG_CONFIG_HOME, though the base-directory standard has it ignored,
-// and takes the root folder for a missing HOME.
-QString ConfigurationFolder() {
-    const QByteArray moved = qgetenv("XDG_CONFIG_HOME");
-    return QFile::decodeName(IsAbsolute(moved) ? moved : HomeFolder() + "/.config");
-}
-
-} // namespace
 
 Platform SystemPlatform() {
     const auto generator = std::make_shared<EntropyGenerator>();
@@ -55,6 +28,6 @@ Platform SystemPlatform() {
         .pumpEvents = [] { QCoreApplication::processEvents(); },
         // No destructors and no exit handlers: the call may come from inside a dialog inside a roll.
         .endProcess = [] { std::_Exit(EXIT_SUCCESS); },
-        .store = SettingsStore(ConfigurationFolder() + u"/Kelvaro/KVR.ini"_s),
+        .store = SettingsStore(OperatingSystem::SettingsFile(u"Kelvaro/KVR.ini"_s)),
     };
 }

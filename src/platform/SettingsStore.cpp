@@ -4,19 +4,10 @@
 #include "platform/SettingsStore.h"
 
 #include "platform/IniText.h"
+#include "platform/OperatingSystem.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-
-#include <cerrno>
-#include <filesystem>
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <unistd.h>
-#endif
 
 using namespace Qt::StringLiterals;
 
@@ -27,16 +18,25 @@ constexpr QLatin1String section = "HighScores"_L1;
 // In bytes, far above anything the game writes: a hostile file must not fill the memory or the time.
 constexpr qint64 largestFile = 1024 * 1024;
 
+// Does what other programs may keep from succeeding until it succeeds or they do not let go. Returns whether it did.
+template <typename Action> bool Insist(Action action) {
+    for (int failures = 1; !action(); ++failures) {
+        if (!OperatingSystem::AwaitOthers(failures)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 // The file's texts, none when there is no such file; nothing when it cannot be read.
 std::optional<IniMap> ReadFile(const QString& fileName) {
-    // QFileInfo takes a thing that it may not look at for one that is not there.
-    std::error_code error;
-    const auto kind = std::filesystem::status(QFile::encodeName(fileName).toStdString(), error).type();
-    if (kind == std::filesystem::file_type::not_found) {
+    using OperatingSystem::Thing;
+    const Thing thing = OperatingSystem::ThingNamed(fileName);
+    if (thing == Thing::Nothing) {
         return IniMap();
     }
     QFile file(fileName);
-    if (kind != std::filesystem::file_type::regular || !file.open(QIODevice::ReadOnly)) {
+    if (thing != Thing::PlainFile || !Insist([&] { return file.open(QIODevice::ReadOnly); })) {
         return std::nullopt;
     }
     const QByteArray bytes = file.read(largestFile + 1);
@@ -46,44 +46,28 @@ std::optional<IniMap> ReadFile(const QString& fileName) {
     return ParseIni(QString::fromUtf8(bytes));
 }
 
-constexpr auto ownersFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-constexpr auto ownersFolder = ownersFile | QFileDevice::ExeOwner;
-
-// Makes what is missing of the folder's path.
+// Makes what is missing of the folder's path. The root of a drive may be missing, and is its own parent.
 void MakeFolder(const QString& path) {
-    if (QFileInfo::exists(path)) {
-        return;
-    }
-    MakeFolder(QFileInfo(path).path());
-    if (QDir().mkdir(path, ownersFolder)) {
-        QFile::setPermissions(path, ownersFolder); // the process's mask may have taken from it
+    const QString parent = QFileInfo(path).path();
+    if (parent != path && !QFileInfo::exists(path)) {
+        MakeFolder(parent);
+        OperatingSystem::MakeFolder(path);
     }
 }
 
 // Opens the file that is to take the name: with the mode of the one that has it, or for its owner alone.
 bool Open(QSaveFile& file) {
     const bool isNew = !QFileInfo::exists(file.fileName());
-    return file.open(QIODevice::WriteOnly) && (!isNew || file.setPermissions(ownersFile));
+    return file.open(QIODevice::WriteOnly)
+           && (!isNew || file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner));
 }
 
-// Whether what was written is on disk. Some failures, a full disk among them, are told only here.
-bool Sync(QSaveFile& file) {
-#ifdef Q_OS_UNIX
-    return fsync(file.handle()) == 0 || errno == EINVAL; // a file system that cannot sync says so
-#else
-    return true;
-#endif
-}
-
-// A file that has taken another's name survives a power cut only once its folder is on disk too.
-void SyncFolder(const QString& folder) {
-#ifdef Q_OS_UNIX
-    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle >= 0) {
-        fsync(handle);
-        close(handle);
-    }
-#endif
+// Puts a file of these bytes in the place of the one that has the name. They are on disk first: the commit alone would
+// put a file that lacks bytes in the old one's place.
+bool Replace(const QString& fileName, const QByteArray& bytes) {
+    QSaveFile file(fileName);
+    return Open(file) && file.write(bytes) == bytes.size() && file.flush() && OperatingSystem::Sync(file.handle())
+           && file.commit();
 }
 
 } // namespace
@@ -115,11 +99,9 @@ void SettingsStore::Write(const SettingsMap& texts) const {
         return;
     }
     MakeFolder(QFileInfo(fileName_).path());
-    QSaveFile file(fileName_);
-    // Flushed and synced first: the commit alone would put a file that lacks bytes in the old one's place.
-    if (Open(file) && file.write(bytes) == bytes.size() && file.flush() && Sync(file) && file.commit()) {
+    if (Insist([&] { return Replace(fileName_, bytes); })) {
         const QFileInfo folder(QFileInfo(fileName_).canonicalPath());
-        SyncFolder(folder.filePath());
-        SyncFolder(folder.path()); // the folder may be new too
+        OperatingSystem::SyncFolder(folder.filePath());
+        OperatingSystem::SyncFolder(folder.path()); // the folder may be new too
     }
 }
