@@ -28,14 +28,14 @@ bool Flush(HANDLE handle) {
 
 } // namespace
 
-// The native style knows light colours only: where the desktop is dark, the style is one that takes any colours. Where
-// it is light it stays so, for a style cannot change under a running game.
+// Qt's native style knows light colours only: where programs are to be dark, there is one that takes any.
 void OperatingSystem::FollowDesktop() {
     const QSettings personal(uR"(HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)"_s,
                              QSettings::NativeFormat);
-    const bool isDark = personal.value(u"AppsUseLightTheme"_s, 1).toInt() == 0;
-    qputenv("QT_QPA_PLATFORM", isDark ? "windows:darkmode=2" : "windows:darkmode=0");
-    qputenv("QT_STYLE_OVERRIDE", isDark ? "Fusion" : "WindowsVista");
+    if (personal.value(u"AppsUseLightTheme"_s, 1).toInt() == 0) {
+        qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
+        qputenv("QT_STYLE_OVERRIDE", "Fusion");
+    }
 }
 
 QString OperatingSystem::SettingsFile(const QString& name) {
