@@ -51,9 +51,7 @@ private slots:
         const QString round = Times(25, "Space Return");
         QTest::newRow("cells")
             << "img2_4 3+4 Image1 Image1 img2_4 img2_4 Ctrl+R img2_4 img1_1 Image1 img5_5 Left Image1 Return";
-        QTest::newRow("a round in the middle of the table, and the next without a question")
-            << "copy:502 again 6+6 Space Space " + round + "Return Return Ctrl+R Up Space Ctrl+R";
-        QTest::newRow("a tie") << "copy:500 again " + round + "Escape Tab Space";
+        QTest::newRow("a tie") << "copy:500 again " + round + "Escape Tab Return Space";
         QTest::newRow("a reset") << "copy:400 again mnuGameHigh CancelButton " + round + "Return mnuGameHigh";
         QTest::newRow("a bad round, and another copy's") << "copy:600 again copy:700 " + round + "Ctrl+N";
         QTest::newRow("no score") << "copy:90 again copy:40000 mnuGameHigh OKButton again copy:150 mnuGameHigh";
@@ -65,8 +63,6 @@ private slots:
             << "Image1 1:Ctrl+N No 1:Ctrl+N Yes 2:img1_1 Image1 2:imgNewGame 2:Ctrl+Q img3_3 Escape "
                "imgNewGame Tab Return Ctrl+N Return Ctrl+Q close Ctrl+Q Tab Space Image1 "
                "mnuGameExit Yes img1_1 again Image1 1:close img2_2";
-        QTest::newRow("dialogs") << "F1 Escape Ctrl+R Return mnuHelpHow Space mnuHelpAbout Escape mnuHelpAbout Space "
-                                    "mnuHelpAbout cmdOK mnuGameHigh Escape Tab Tab Return F1 close";
         QTest::newRow("keys") << "Tab Tab Left Num+Up Home Down End Right Down Shift+Tab Up Tab Tab Enter Tab Tab Left "
                                  "Tab Shift+Tab Enter Image1 img5_5 Ctrl+N Yes Right";
         QTest::newRow("sizes")
@@ -165,7 +161,6 @@ private slots:
         const QImage plain = painted(), closed = Shown(next), unlit = button.grab().toImage();
         QTest::mouseMove(window, middle);
         QTest::keyClick(window, Qt::Key_Control);
-        QVERIFY(cell.underMouse());
         QCOMPARE(painted(), plain);
         player.Tell({"Tab", "Tab"});
         QVERIFY(painted() != plain);
