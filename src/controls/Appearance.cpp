@@ -14,9 +14,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString LabelFamily() {
-    // These share their widths and heights; whatever else a system falls back to is wider or taller.
-    static const QStringList preferred{u"MS Sans Serif"_s, u"Microsoft Sans Serif"_s, u"Arial"_s, u"Liberation Sans"_s,
-                                       u"Arimo"_s};
+    // These share their widths and heights; whatever else a system falls back to is wider or taller. The first of them
+    // is the design's MS Sans Serif at every size: the family of that name is of a few fixed sizes.
+    static const QStringList preferred{u"Microsoft Sans Serif"_s, u"Arial"_s, u"Liberation Sans"_s, u"Arimo"_s,
+                                       u"MS Sans Serif"_s};
     // One look at the list: asking for a family by name resolves aliases, a millisecond each.
     const QStringList installed = QFontDatabase::families();
     const auto found =
