@@ -122,8 +122,11 @@ void Announce(Label& label, const QString& news) {
     label.setAccessibleName(news);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent announcement(&label, news);
+#elif defined(Q_OS_WIN)
+    // There are no announcements yet, but a text that is a new value is handed on as one.
+    QAccessibleValueChangeEvent announcement(&label, news);
 #else
-    // There are no announcements yet, but the name of a notification that appears is spoken.
+    // Nor are there here, but the name of a notification that appears is spoken.
     QAccessibleEvent announcement(&label, QAccessible::ObjectShow);
 #endif
     QAccessible::updateAccessibility(&announcement);
