@@ -16,11 +16,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+[[noreturn]] void EndWithoutDisplay() {
+    std::fputs("kelvaro: there is no display to open a window on, or no Qt platform plugin for it\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
 // Qt answers a missing display with a core dump.
 void ExplainFatal(QtMsgType type, const QMessageLogContext&, const QString&) {
     if (type == QtFatalMsg) {
-        std::fputs("kelvaro: there is no display to open a window on, or no Qt platform plugin for it\n", stderr);
-        std::_Exit(EXIT_FAILURE);
+        EndWithoutDisplay();
     }
 }
 
@@ -32,6 +36,9 @@ bool CanReadPictures() {
 } // namespace
 
 int main(int, char* argv[]) {
+    if (!OperatingSystem::ShowsWindows()) {
+        EndWithoutDisplay();
+    }
     OperatingSystem::FollowDesktop();
     const QtMessageHandler standardHandler = qInstallMessageHandler(ExplainFatal);
     int noArguments = 1; // only the program's name: the game takes no command line, Qt's own options included

@@ -32,6 +32,10 @@ QByteArray HomeFolder() {
 
 } // namespace
 
+bool OperatingSystem::ShowsWindows() {
+    return true;
+}
+
 // Qt goes with them by itself.
 void OperatingSystem::FollowDesktop() {
 }

@@ -28,6 +28,14 @@ bool Flush(HANDLE handle) {
 
 } // namespace
 
+// In a service's session windows are made and never seen; Wine without a display makes none.
+bool OperatingSystem::ShowsWindows() {
+    USEROBJECTFLAGS station{};
+    GetUserObjectInformationW(GetProcessWindowStation(), UOI_FLAGS, &station, sizeof station, nullptr);
+    const HWND window = CreateWindowW(L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    return (station.dwFlags & WSF_VISIBLE) != 0 && DestroyWindow(window);
+}
+
 // Qt's native style knows light colours only: where programs are to be dark, there is one that takes any.
 void OperatingSystem::FollowDesktop() {
     const QSettings personal(uR"(HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)"_s,
