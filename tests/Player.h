@@ -102,7 +102,8 @@ private:
     }
 
     void AnswerDialog() {
-        if (IsDialogOpen() && QApplication::activeModalWidget()->isActiveWindow()) {
+        const QWidget* focused = QApplication::focusWidget();
+        if (focused != nullptr && focused->window() == QApplication::activeModalWidget()) {
             idle_.stop();
             InDialog();
             idle_.start();
