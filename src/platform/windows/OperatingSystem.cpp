@@ -4,7 +4,6 @@
 #include "platform/OperatingSystem.h"
 
 #include <QDir>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QThread>
 
@@ -15,9 +14,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Calls `use` with the system's form of a file name.
+// Calls `use` with the system's form of a file name, the one that may be of any length: Qt opens files by it too.
 template <typename Use> auto WithName(const QString& fileName, Use use) {
-    return use(QDir::toNativeSeparators(fileName).toStdWString().c_str());
+    const QString name = QDir::toNativeSeparators(fileName);
+    const bool isOnOtherMachine = name.startsWith(uR"(\\)"_s);
+    const QString longName = isOnOtherMachine ? uR"(\\?\UNC)"_s + name.mid(1) : uR"(\\?\)"_s + name;
+    return use(longName.toStdWString().c_str());
 }
 
 // Whether the handle's file is on disk. A file system that cannot sync says so.
@@ -38,9 +40,13 @@ bool OperatingSystem::ShowsWindows() {
 
 // Qt's native style knows light colours only: where programs are to be dark, there is one that takes any.
 void OperatingSystem::FollowDesktop() {
-    const QSettings personal(uR"(HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)"_s,
-                             QSettings::NativeFormat);
-    if (personal.value(u"AppsUseLightTheme"_s, 1).toInt() == 0) {
+    DWORD isLight = 1;
+    DWORD size = sizeof isLight;
+    RegGetValueW(HKEY_CURRENT_USER, LR"(Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)",
+                 L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &isLight, &size);
+    HIGHCONTRASTW contrast{sizeof contrast, 0, nullptr};
+    SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
+    if (isLight == 0 && (contrast.dwFlags & HCF_HIGHCONTRASTON) == 0) {
         qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
         qputenv("QT_STYLE_OVERRIDE", "Fusion");
     }
@@ -52,9 +58,20 @@ QString OperatingSystem::SettingsFile(const QString& name) {
 }
 
 OperatingSystem::Thing OperatingSystem::ThingNamed(const QString& fileName) {
-    const DWORD attributes = WithName(fileName, [](const wchar_t* name) { return GetFileAttributesW(name); });
+    if (fileName.isEmpty()) {
+        return Thing::SomethingElse; // there is no folder for settings
+    }
+    DWORD attributes = 0;
+    DWORD error = 0;
+    int failures = 0;
+    do {
+        WithName(fileName, [&](const wchar_t* name) {
+            attributes = GetFileAttributesW(name);
+            error = GetLastError();
+        });
+        // What is just being replaced may not be looked at for a moment.
+    } while (attributes == INVALID_FILE_ATTRIBUTES && error == ERROR_ACCESS_DENIED && AwaitOthers(++failures));
     if (attributes == INVALID_FILE_ATTRIBUTES) {
-        const DWORD error = GetLastError();
         const bool isMissing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
         return isMissing ? Thing::Nothing : Thing::SomethingElse;
     }
