@@ -1,9 +1,8 @@
 # SPDX-FileCopyrightText: 2026 the Kelvaro developers
 # SPDX-License-Identifier: MIT
 
-# For Windows on x86-64, from Debian: each function and table on its own, so that the linker leaves out what nothing calls,
-# and no path of the folder that it was built in. Qt's objects are in the form for many sections, which the linker's plug-in
-# for optimising at link time does not read.
+# For Windows on x86-64, from Debian: each function and table on its own, so that the linker leaves out what nothing uses (of
+# functions few, as their unwinding tables hold them), and no path of the folder that it was built in.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)

@@ -29,7 +29,7 @@ Form1::Form1(Platform platform)
       columnArrow_(u"arrow-down"_s, u"ico"_s) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Kelvaro"_s);
-    setWindowIcon(QPixmap(u":/pictures/kelvaro.png"_s));
+    setWindowIcon(QPixmap(u":/pictures/kelvaro.png"_s)); // not there on Windows, where it is the program's
     Compose();
 
     // The floor of the window's size is the layout's own.
