@@ -102,8 +102,7 @@ private:
     }
 
     void AnswerDialog() {
-        const QWidget* focused = QApplication::focusWidget();
-        if (focused != nullptr && focused->window() == QApplication::activeModalWidget()) {
+        if (IsDialogOpen() && QApplication::activeModalWidget()->isAncestorOf(QApplication::focusWidget())) {
             idle_.stop();
             InDialog();
             idle_.start();
