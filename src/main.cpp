@@ -3,8 +3,10 @@
 
 #include "controls/Accessibility.h"
 #include "mainwindow/Form1.h"
-#include "platform/OperatingSystem.h"
 #include "platform/Platform.h"
+#ifdef Q_OS_WIN
+#include "platform/WindowsTheme.h"
+#endif
 
 #include <QApplication>
 #include <QImageReader>
@@ -16,16 +18,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-[[noreturn]] void EndWithoutDisplay() {
-    std::fputs("kelvaro: there is no display to open a window on, or no Qt platform plugin for it\n", stderr);
-    std::_Exit(EXIT_FAILURE);
-}
+QtMessageHandler standardHandler = nullptr;
 
-// Qt answers a missing display with a core dump.
-void ExplainFatal(QtMsgType type, const QMessageLogContext&, const QString&) {
+// Without a display Qt aborts with a fatal message. This replaces the message and the core dump.
+void ExplainFatal(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (type == QtFatalMsg) {
-        EndWithoutDisplay();
+        std::fputs("kelvaro: there is no display to open a window on, or no Qt platform plugin for it\n", stderr);
+        std::_Exit(EXIT_FAILURE);
     }
+    standardHandler(type, context, message);
 }
 
 // Those that Qt leaves to plug-ins: without them the game would be played with invisible dice.
@@ -36,12 +37,13 @@ bool CanReadPictures() {
 } // namespace
 
 int main(int, char* argv[]) {
-    if (!OperatingSystem::ShowsWindows()) {
-        EndWithoutDisplay();
-    }
-    OperatingSystem::FollowDesktop();
-    const QtMessageHandler standardHandler = qInstallMessageHandler(ExplainFatal);
-    int noArguments = 1; // only the program's name: the game takes no command line, Qt's own options included
+#ifdef Q_OS_WIN
+    FollowWindowsTheme();
+#endif
+    // Set first, because newer Qt registers the id with the desktop while the application is created.
+    QGuiApplication::setDesktopFileName(u"io.github.kelvaro.Kelvaro"_s);
+    standardHandler = qInstallMessageHandler(ExplainFatal);
+    int noArguments = 1; // only the program's name: the game takes no options, not even those of Qt
     QApplication application(noArguments, argv);
     qInstallMessageHandler(standardHandler);
 
@@ -49,7 +51,6 @@ int main(int, char* argv[]) {
         std::fputs("kelvaro: Qt cannot read the game's pictures: its JPEG or ICO plug-in is missing\n", stderr);
         return EXIT_FAILURE;
     }
-    QGuiApplication::setDesktopFileName(u"io.github.kelvaro.Kelvaro"_s);
     InstallAccessibility();
     Form1 window(SystemPlatform());
     window.show();

@@ -11,12 +11,6 @@ namespace OperatingSystem {
 // What has a file's name. What may not be looked at is something else.
 enum class Thing { Nothing, PlainFile, SomethingElse };
 
-// Whether there is somebody to see a window, as far as Qt would not notice by itself.
-bool ShowsWindows();
-
-// Chooses what can be chosen only before there is an application: how it goes with the desktop's colours.
-void FollowDesktop();
-
 // The user's settings file of that name, under the folder in which programs keep theirs.
 QString SettingsFile(const QString& name);
 

@@ -32,14 +32,6 @@ QByteArray HomeFolder() {
 
 } // namespace
 
-bool OperatingSystem::ShowsWindows() {
-    return true;
-}
-
-// Qt goes with them by itself.
-void OperatingSystem::FollowDesktop() {
-}
-
 // Not from QStandardPaths, which follows a relative XDG_CONFIG_HOME, though the base-directory standard has it ignored,
 // and takes the root folder for a missing HOME.
 QString OperatingSystem::SettingsFile(const QString& name) {

@@ -30,28 +30,6 @@ bool Flush(HANDLE handle) {
 
 } // namespace
 
-// In a service's session windows are made and never seen; Wine without a display makes none.
-bool OperatingSystem::ShowsWindows() {
-    USEROBJECTFLAGS station{};
-    GetUserObjectInformationW(GetProcessWindowStation(), UOI_FLAGS, &station, sizeof station, nullptr);
-    const HWND window = CreateWindowW(L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
-    return (station.dwFlags & WSF_VISIBLE) != 0 && DestroyWindow(window);
-}
-
-// Qt's native style knows light colours only: where programs are to be dark, there is one that takes any.
-void OperatingSystem::FollowDesktop() {
-    DWORD isLight = 1;
-    DWORD size = sizeof isLight;
-    RegGetValueW(HKEY_CURRENT_USER, LR"(Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)",
-                 L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &isLight, &size);
-    HIGHCONTRASTW contrast{sizeof contrast, 0, nullptr};
-    SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
-    if (isLight == 0 && (contrast.dwFlags & HCF_HIGHCONTRASTON) == 0) {
-        qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
-        qputenv("QT_STYLE_OVERRIDE", "Fusion");
-    }
-}
-
 QString OperatingSystem::SettingsFile(const QString& name) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     return folder.isEmpty() ? QString() : folder + u'/' + name; // not the root of some drive
