@@ -31,15 +31,23 @@ protected:
             return [this, field] { return ReadClock().toString(field).toInt(); };
         };
         window_.reset();
-        window_ = std::make_unique<Form1>(Platform{clock("yyyy"), clock("M"), clock("d"), clock("H"), clock("m"),
-                                                   clock("s"), [this](int seconds) { seed_ = seconds, passes_ = 0; },
-                                                   [this] { return Uniform(dice_[draws_++ % 2]); }, [this] { Pass(); },
-                                                   [this] { hasEnded_ = true; }, SettingsStore(storeName_)});
+        window_ = std::make_unique<Form1>(
+            Platform{clock("yyyy"), clock("M"), clock("d"), clock("H"), clock("m"), clock("s"),
+                     [this](int seconds) { seed_ = seconds, passes_ = 0; },
+                     [this] { return Uniform(dice_[draws_++ % 2]); }, [this] { Pass(); }, [this] { hasEnded_ = true; },
+                     [this] { return std::make_unique<QSettings>(storeName_, QSettings::IniFormat); }});
         window_->show();
         QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
     }
 
-    void SetStore(const QString& content) override { Replace(storeName_, content.toUtf8()); }
+    // QSettings reads a file again only if its size or time has changed. Quick saves may get the same time, so each
+    // save sets a later one.
+    void SetStore(const QString& content) override {
+        Replace(storeName_, content.toUtf8());
+        QFile file(storeName_);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(++saves_), QFileDevice::FileModificationTime));
+    }
 
     void Resize(const QSize& outer) override {
         window_->resize(outer.shrunkBy(window_->windowHandle()->frameMargins()));
@@ -123,6 +131,7 @@ private:
 
     QTemporaryDir folder_;
     QString storeName_ = folder_.filePath("KVR.ini");
+    int saves_ = 0;
     int draws_ = 0;
     QTimer idle_;
     std::unique_ptr<Form1> window_;

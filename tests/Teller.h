@@ -102,8 +102,8 @@ private:
         const QStringList numbers = word.split(QRegularExpression("[:+x]"));
         const int first = numbers.first().toInt(), second = numbers.last().toInt();
         if (word.startsWith("copy:")) {
-            SetStore(StoreOf(
-                {{second, "a, \"b\""}, {second - 1, "c;"}, {second - 2, "\\e"}, {second - 3, "@"}, {second - 4, ""}}));
+            SetStore(
+                StoreOf({{second, "a"}, {second - 1, "b"}, {second - 2, "c"}, {second - 3, "d"}, {second - 4, ""}}));
         } else if (word == "again" && !IsDialogOpen()) {
             hasEnded_ = false;
             Start();

@@ -5,7 +5,9 @@
 
 #include "highscores/ScoreText.h"
 #include "platform/Int16.h"
-#include "platform/SettingsStore.h"
+
+#include <QSettings>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -14,12 +16,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString ScoreKey(std::int16_t rank) {
-    return u"Score"_s + QString::number(rank);
+    return u"HighScores/Score%1"_s.arg(rank);
 }
 
 // The stored format's name for what is a date-time text.
 QString TextKey(std::int16_t rank) {
-    return u"User"_s + QString::number(rank);
+    return u"HighScores/User%1"_s.arg(rank);
+}
+
+// QSettings reads a hand-edited value with commas as a list.
+QString ReadText(const QSettings& store, const QString& key) {
+    return store.value(key).toStringList().join(u',');
 }
 
 } // namespace
@@ -42,24 +49,23 @@ QString HighScoreTable::Caption(std::int16_t rank) const {
     return QString::number(At(rank).score) + u"  "_s + At(rank).text;
 }
 
-void HighScoreTable::Load(const SettingsStore& store) {
-    const auto stored = store.Read();
-    if (!stored) {
+void HighScoreTable::Load(QSettings& store) {
+    store.sync(); // another copy of the game may have written to it
+    if (store.status() == QSettings::AccessError) {
         return;
     }
     std::int16_t rank = 1;
     for (auto& [score, text] : entries_) {
-        score = ReadScore(stored->value(ScoreKey(rank))).value_or(score);
-        text = stored->value(TextKey(rank));
+        score = ReadScore(ReadText(store, ScoreKey(rank))).value_or(score);
+        text = ReadText(store, TextKey(rank));
         rank = CheckedAdd(rank, 1);
     }
 }
 
-void HighScoreTable::Save(const SettingsStore& store) const {
-    SettingsMap texts;
+void HighScoreTable::Save(QSettings& store) const {
     for (std::int16_t rank = 1; rank <= Ranks; rank = CheckedAdd(rank, 1)) {
-        texts.insert(ScoreKey(rank), QString::number(At(rank).score));
-        texts.insert(TextKey(rank), At(rank).text);
+        store.setValue(ScoreKey(rank), QString::number(At(rank).score));
+        store.setValue(TextKey(rank), At(rank).text);
     }
-    store.Write(texts);
+    store.sync();
 }

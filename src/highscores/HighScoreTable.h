@@ -10,7 +10,7 @@
 #include <functional>
 #include <optional>
 
-class SettingsStore;
+class QSettings;
 
 // One row of the table: a round's score and the date-time text of its end.
 struct HighScoreEntry {
@@ -35,12 +35,12 @@ public:
     // What a list of the best rounds reads at the rank: the score, two blanks and the text.
     QString Caption(std::int16_t rank) const;
 
-    // Replaces the table with what the store holds, in the store's order. A table that cannot be read, and
-    // an entry whose score needs more than 16 bits, keep what they had.
-    void Load(const SettingsStore& store);
+    // Replaces the table with what the store holds now, in the store's order. If the store cannot be read, the table
+    // stays as it is; so does an entry whose stored score needs more than 16 bits. `store` has had no error yet.
+    void Load(QSettings& store);
 
-    // Writes all entries; they are on disk when the call returns, if they can be.
-    void Save(const SettingsStore& store) const;
+    // Writes all entries to disk before it returns. If the store cannot be written, nothing is reported.
+    void Save(QSettings& store) const;
 
 private:
     std::array<HighScoreEntry, Ranks> entries_;

@@ -9,11 +9,11 @@
 #include <utility>
 
 void Form1::LoadHighScores() {
-    highScores_.Load(platform_.store);
+    highScores_.Load(*platform_.openSettings());
 }
 
 void Form1::SaveHighScores() {
-    highScores_.Save(platform_.store);
+    highScores_.Save(*platform_.openSettings());
 }
 
 void Form1::RecordHighScore(std::int16_t score) {
@@ -35,7 +35,8 @@ void Form1::ShowHighScores() {
     if (IsDialogOpen()) {
         return; // the news of the round are left to be announced
     }
-    frmHighScores dialog(highScores_, platform_.store);
+    const auto store = platform_.openSettings();
+    frmHighScores dialog(highScores_, *store);
     // With the dialog's name, because news that are announced now would be heard after all that stands in it.
     dialog.setAccessibleName(std::exchange(news_, {}) + dialog.windowTitle());
     dialog.ShowModal(*this);

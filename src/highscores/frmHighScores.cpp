@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-frmHighScores::frmHighScores(const HighScoreTable& table, const SettingsStore& store)
+frmHighScores::frmHighScores(const HighScoreTable& table, QSettings& store)
     : GreenDialog(u"frmHighScores"_s, u"High Scores"_s, QSize(402, 143)), store_(store) {
     auto* okButton = AddButton(u"OKButton"_s, u"OK"_s, {304, 8, 89, 25});
     auto* cancelButton = AddButton(u"CancelButton"_s, u"Reset Scores"_s, {304, 40, 89, 25});

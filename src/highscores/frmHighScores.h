@@ -8,14 +8,13 @@
 
 #include <array>
 
-class SettingsStore;
+class QSettings;
 
 // The list of the five best rounds.
 class frmHighScores final : public GreenDialog {
 public:
-    // Shows `table` as it stands. "Reset Scores" empties `store`, which outlives the dialog, and leaves
-    // `table` alone.
-    frmHighScores(const HighScoreTable& table, const SettingsStore& store);
+    // Shows `table`. "Reset Scores" clears `store`, which must outlive the dialog, but not `table`.
+    frmHighScores(const HighScoreTable& table, QSettings& store);
 
     bool HasReset() const { return hasReset_; }
 
@@ -23,7 +22,7 @@ private:
     void OKButton_Click();
     void CancelButton_Click();
 
-    const SettingsStore& store_;
+    QSettings& store_;
     bool hasReset_ = false;
     std::array<Label*, HighScoreTable::Ranks> lblHighScore_{};
 };

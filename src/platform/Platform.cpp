@@ -4,15 +4,29 @@
 #include "platform/Platform.h"
 
 #include "platform/EntropyGenerator.h"
-#include "platform/OperatingSystem.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 
 #include <cstdlib>
-#include <memory>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+#ifdef Q_OS_WIN
+constexpr auto settingsFormat = QSettings::NativeFormat; // the registry
+#else
+constexpr auto settingsFormat = QSettings::IniFormat;
+#endif
+
+std::unique_ptr<QSettings> OpenUserSettings() {
+    auto settings = std::make_unique<QSettings>(settingsFormat, QSettings::UserScope, u"Kelvaro"_s, u"KVR"_s);
+    settings->setFallbacksEnabled(false); // otherwise a missing key is looked up in Kelvaro.ini
+    return settings;
+}
+
+} // namespace
 
 Platform SystemPlatform() {
     const auto generator = std::make_shared<EntropyGenerator>();
@@ -28,6 +42,6 @@ Platform SystemPlatform() {
         .pumpEvents = [] { QCoreApplication::processEvents(); },
         // No destructors and no exit handlers: the call may come from inside a dialog inside a roll.
         .endProcess = [] { std::_Exit(EXIT_SUCCESS); },
-        .store = SettingsStore(OperatingSystem::SettingsFile(u"Kelvaro/KVR.ini"_s)),
+        .openSettings = OpenUserSettings,
     };
 }

@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include "platform/SettingsStore.h"
+#include <QSettings>
 
 #include <functional>
+#include <memory>
 
 // What the game asks of the machine.
 struct Platform {
@@ -27,7 +28,8 @@ struct Platform {
     // Ends the program at once with exit status 0: nothing after the call runs, nothing is saved.
     std::function<void()> endProcess;
 
-    SettingsStore store;
+    // Opens the store of the high scores. Every load and every save opens it anew: a QSettings keeps its first error.
+    std::function<std::unique_ptr<QSettings>()> openSettings;
 };
 
 // This machine, with this user's settings.
