@@ -22,9 +22,7 @@ public:
     void Clear();
     bool IsFull() const;
 
-    bool operator==(const Board&) const = default;
-
-    // The place of a cell, from 0, in an array of all: column by column, the row varies fastest. Throws as above.
+    // The index of a cell in an array of all 25, from 0, column by column. Throws SubscriptError as above.
     static std::size_t Element(std::int16_t row, std::int16_t column);
 
 private:

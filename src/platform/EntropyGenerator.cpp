@@ -4,6 +4,7 @@
 #include "platform/EntropyGenerator.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace {
 
@@ -16,9 +17,6 @@ std::mt19937_64 SeededFromEntropy() {
 } // namespace
 
 EntropyGenerator::EntropyGenerator() : engine_(SeededFromEntropy()) {
-}
-
-EntropyGenerator::EntropyGenerator(std::uint32_t seed) : engine_(seed) {
 }
 
 void EntropyGenerator::Reseed(int seconds) {

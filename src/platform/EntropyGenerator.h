@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <cstdint>
 #include <random>
 
 // The game's source of uniform numbers. It starts from the system's entropy, and re-seeding folds the given number into
@@ -12,10 +11,7 @@ class EntropyGenerator {
 public:
     EntropyGenerator();
 
-    // Starts from `seed` instead of the system's entropy: the same seed gives the same numbers.
-    explicit EntropyGenerator(std::uint32_t seed);
-
-    void Reseed(int seconds);
+    void Reseed(int seconds); // 0..59
 
     // The next number, in [0, 1).
     double Next();
