@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mainwindow/Form1.h"
+#include "platform/X11Event.h"
 
 #include <QCloseEvent>
 #include <QEvent>
@@ -29,14 +30,12 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
     return QMainWindow::eventFilter(watched, event);
 }
 
-bool Form1::nativeEvent(const QByteArray& kind, void* message, qintptr* result) {
-    // Under X11 a change of the frame is a change of one of the window's properties, which Qt takes up without an
-    // event.
-    constexpr quint8 propertyNotify = 28;
-    if (kind == "xcb_generic_event_t" && (*static_cast<const quint8*>(message) & 0x7f) == propertyNotify) {
+bool Form1::nativeEvent(const QByteArray& eventType, void* message, qintptr* result) {
+    // Under X11 a window's frame is one of its properties. Qt reads a changed frame without sending an event.
+    if (IsX11PropertyNotify(eventType, message)) {
         QMetaObject::invokeMethod(this, &Form1::FollowFrame, Qt::QueuedConnection);
     }
-    return QMainWindow::nativeEvent(kind, message, result);
+    return QMainWindow::nativeEvent(eventType, message, result);
 }
 
 void Form1::resizeEvent(QResizeEvent* event) {
