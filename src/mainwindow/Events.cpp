@@ -38,6 +38,13 @@ bool Form1::nativeEvent(const QByteArray& eventType, void* message, qintptr* res
     return QMainWindow::nativeEvent(eventType, message, result);
 }
 
+void Form1::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isFrameKnown_) {
+        Form_Resize(); // a window can change its size while it is minimised
+    }
+}
+
 void Form1::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     if (isFrameKnown_) {
