@@ -37,8 +37,8 @@ void Form1::StartNewGame() {
     pendingRoll_ = 0;
     Tell(SpokenNames::newGame);
     UpdateScores();
-    for (const auto [row, column] : boardCells) {
-        ShowCell(Cell(row, column), row, column);
+    for (const CellPosition& cell : boardCells) {
+        ShowCell(Cell(cell.row, cell.column), cell.row, cell.column);
     }
     mnuGameRoll_->setEnabled(true);
     image1_->show();

@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A roll begun inside a pause goes one level deeper into the stack, which is not endless.
-constexpr int mostPausesUnderWay = 64;
+// A roll that starts inside a pause of another one nests deeper, and the stack is finite.
+constexpr int maxNestedPauses = 64;
 
 // A screen reader that hears the name of a hidden die takes it for hidden from then on.
 void NameShownDie(Picture& die, const QString& ordinal) {
@@ -67,14 +67,14 @@ void Form1::RollDice() {
 
 // A count of passes on purpose, not a time.
 void Form1::Pause() {
-    if (pausesUnderWay_ == mostPausesUnderWay) {
+    if (nestedPauses_ == maxNestedPauses) {
         return;
     }
-    ++pausesUnderWay_;
+    ++nestedPauses_;
     for (std::int16_t outer = 1; outer <= 1000; outer = CheckedAdd(outer, 1)) {
         for (std::int16_t inner = 1; inner <= 250; inner = CheckedAdd(inner, 1)) {
             platform_.pumpEvents();
         }
     }
-    --pausesUnderWay_;
+    --nestedPauses_;
 }

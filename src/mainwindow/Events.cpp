@@ -25,7 +25,7 @@ void Form1::showEvent(QShowEvent* event) {
 bool Form1::eventFilter(QObject* watched, QEvent* event) {
     // The first frame is settled when the window can be seen.
     if (watched == windowHandle() && event->type() == QEvent::Expose && windowHandle()->isExposed()) {
-        isFrameKnown_ ? FollowFrame() : OnFrameKnown();
+        isFrameKnown_ ? UpdateFrame() : StartLayout();
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -33,7 +33,7 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
 bool Form1::nativeEvent(const QByteArray& eventType, void* message, qintptr* result) {
     // Under X11 a window's frame is one of its properties. Qt reads a changed frame without sending an event.
     if (IsX11PropertyNotify(eventType, message)) {
-        QMetaObject::invokeMethod(this, &Form1::FollowFrame, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &Form1::UpdateFrame, Qt::QueuedConnection);
     }
     return QMainWindow::nativeEvent(eventType, message, result);
 }
@@ -48,7 +48,7 @@ void Form1::changeEvent(QEvent* event) {
 void Form1::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     if (isFrameKnown_) {
-        FollowFrame();
+        UpdateFrame();
         Form_Resize();
     }
 }

@@ -122,21 +122,21 @@ private:
     static void LayOutRow(const LineControls& row, const Grid& grid);
     static void LayOutColumn(const LineControls& column, const Grid& grid);
     void LayOutStrip(const QSizeF& outer, double gridRight);
-    void OnFrameKnown();
-    void FollowFrame();
+    void StartLayout(); // when the window's frame is known for the first time
+    void UpdateFrame(); // when the frame may have changed
     QSize OuterSize() const;
-    QSize AtFloor(const QSize& client) const; // the client area, enlarged where the window would be too small
+    QSize EnlargedToMinimum(const QSize& client) const;
 
     RollValue pendingRoll_ = 0;
     Board board_;
     HighScoreTable highScores_;
 
     Platform platform_;
-    int pausesUnderWay_ = 0;
+    int nestedPauses_ = 0;
     bool isLoaded_ = false;
     bool isFrameKnown_ = false;
     QMargins frame_;
-    QSize tooSmall_;           // the client area that was last enlarged
+    QSize enlargedFrom_;       // the last client size that was below the minimum
     CellPosition currentCell_; // where the keyboard is in the grid
     QString news_;             // told and not yet announced
 

@@ -64,23 +64,23 @@ void Form1::Form_Resize() {
     if (isMinimized()) {
         return;
     }
-    if (size() == AtFloor(size())) {
+    if (size() == EnlargedToMinimum(size())) {
         LayOut();
     } else {
-        tooSmall_ = size();
-        resize(AtFloor(size())); // raises the event again
+        enlargedFrom_ = size();
+        resize(EnlargedToMinimum(size())); // raises the event again
     }
 }
 
-QSize Form1::AtFloor(const QSize& client) const {
+QSize Form1::EnlargedToMinimum(const QSize& client) const {
     return client.expandedTo(smallestOuterSize.shrunkBy(frame_));
 }
 
 void Form1::LayOut() {
     const QSizeF outer = QSizeF(OuterSize()) * twipsPerPixel;
     const Grid grid(outer);
-    for (const auto [row, column] : boardCells) {
-        MoveTo(Cell(row, column), grid.Left(column), grid.Top(row));
+    for (const CellPosition& cell : boardCells) {
+        MoveTo(Cell(cell.row, cell.column), grid.Left(cell.column), grid.Top(cell.row));
     }
     for (const LineControls& controls : lines_) {
         controls.line.kind == BoardLine::Kind::Row ? LayOutRow(controls, grid) : LayOutColumn(controls, grid);
@@ -130,27 +130,28 @@ void Form1::LayOutStrip(const QSizeF& outer, double gridRight) {
     MoveTo(*lblRolled_, Design::sum.left(), rollTop);
 }
 
-void Form1::OnFrameKnown() {
+void Form1::StartLayout() {
     isFrameKnown_ = true;
     frame_ = windowHandle()->frameMargins();
     Form_Resize();
-    // Telling the window manager as well spares the player the flicker of a window that snaps back.
-    windowHandle()->setMinimumSize(AtFloor(QSize()));
+    // The window manager is told the minimum size too, so that the window does not flicker as it is enlarged again.
+    windowHandle()->setMinimumSize(EnlargedToMinimum(QSize()));
     windowHandle()->setFramePosition(ScreenPlace(OuterSize(), *screen()));
 }
 
-// A frame may come late, go in full screen, and come back after the size that belongs to it.
-void Form1::FollowFrame() {
+// A window manager may add the frame late, and it removes the frame in full screen. When it puts the frame back, it has
+// already resized the window.
+void Form1::UpdateFrame() {
     if (!isFrameKnown_ || windowHandle()->frameMargins() == frame_) {
         return;
     }
-    const bool isEnlarged = size() == AtFloor(tooSmall_);
+    const bool isEnlarged = size() == EnlargedToMinimum(enlargedFrom_);
     frame_ = windowHandle()->frameMargins();
-    // Only ever less: a window manager that maximises a window takes its frame first and gives it a size a moment
-    // later, and it must be free to give the old size back.
-    windowHandle()->setMinimumSize(windowHandle()->minimumSize().boundedTo(AtFloor(QSize())));
+    // The minimum is only ever lowered: a window manager that maximises a window first removes its frame, and later it
+    // must be able to restore the old size.
+    windowHandle()->setMinimumSize(windowHandle()->minimumSize().boundedTo(EnlargedToMinimum(QSize())));
     if (isEnlarged) {
-        resize(size().boundedTo(AtFloor(tooSmall_)));
+        resize(size().boundedTo(EnlargedToMinimum(enlargedFrom_)));
     }
     LayOut();
 }
