@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "controls/Accessibility.h"
+#include "controls/Application.h"
 #include "mainwindow/Form1.h"
 #include "platform/Platform.h"
 #ifdef Q_OS_WIN
 #include "platform/WindowsTheme.h"
 #endif
 
-#include <QApplication>
 #include <QImageReader>
 
 #include <cstdio>
@@ -44,7 +44,7 @@ int main(int, char* argv[]) {
     QGuiApplication::setDesktopFileName(u"io.github.kelvaro.Kelvaro"_s);
     standardHandler = qInstallMessageHandler(ExplainFatal);
     int noArguments = 1; // only the program's name: the game takes no options, not even those of Qt
-    QApplication application(noArguments, argv);
+    Application application(noArguments, argv);
     qInstallMessageHandler(standardHandler);
 
     if (!CanReadPictures()) {

@@ -4,10 +4,26 @@
 #pragma once
 
 #include "Teller.h"
+#include "controls/Application.h"
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
 
 #include <QtWidgets>
+
+// The game's application. The player sets the time stamps of its key events.
+class PlayersApplication final : public Application {
+public:
+    using Application::Application;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        if (auto* key = dynamic_cast<QKeyEvent*>(event)) {
+            key->setTimestamp(time += 100);
+        }
+        return Application::notify(receiver, event);
+    }
+
+    static inline quint64 time = 0;
+};
 
 // Does the words with the real window, by its mouse and keys, on the stand-in machine.
 class Player final : public Teller {

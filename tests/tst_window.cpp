@@ -197,5 +197,10 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_window)
+int main(int argc, char* argv[]) {
+    PlayersApplication application(argc, argv);
+    tst_window test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_window.moc"

@@ -30,7 +30,7 @@ void Form1::mousePressEvent(QMouseEvent* event) {
 void Form1::keyPressEvent(QKeyEvent* event) {
     if ((event->modifiers() & ~Qt::KeypadModifier) != 0) {
         // Only a disabled entry leaves its shortcut alone.
-        if (mnuGameRoll_->shortcut() == QKeySequence(event->keyCombination()) && !event->isAutoRepeat()) {
+        if (mnuGameRoll_->shortcut() == QKeySequence(event->keyCombination())) {
             Refuse(board_.IsFull() ? SpokenNames::over : SpokenNames::Waiting(pendingRoll_));
         }
         QMainWindow::keyPressEvent(event);
