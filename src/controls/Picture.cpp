@@ -23,14 +23,6 @@ bool IsModifier(int key) {
            || key == Qt::Key_Meta;
 }
 
-// Enter as the Space that a button knows: it acts on release, so that a key held down does not go on to answer the
-// question that it opened.
-QKeyEvent PressKey(const QKeyEvent& event) {
-    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Select;
-    return QKeyEvent(event.type(), isEnter ? Qt::Key_Space : event.key(), event.modifiers(), event.text(),
-                     event.isAutoRepeat());
-}
-
 } // namespace
 
 void PictureFace::SetPicture(const PictureList& list, std::int16_t index) {
@@ -93,16 +85,11 @@ bool PictureButton::event(QEvent* event) {
 }
 
 void PictureButton::keyPressEvent(QKeyEvent* event) {
-    if (QKeyEvent press = PressKey(*event); press.key() == Qt::Key_Space) {
-        QAbstractButton::keyPressEvent(&press);
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
     } else {
         event->ignore();
     }
-}
-
-void PictureButton::keyReleaseEvent(QKeyEvent* event) {
-    QKeyEvent release = PressKey(*event);
-    QAbstractButton::keyReleaseEvent(&release);
 }
 
 void PictureButton::mousePressEvent(QMouseEvent* event) {
