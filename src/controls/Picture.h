@@ -84,6 +84,7 @@ protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override {} // the second press of a double click does nothing
     void paintEvent(QPaintEvent* event) override;
 
 private:
