@@ -155,6 +155,7 @@ private slots:
     void lights() {
         Player player;
         QWidget &cell = player.Find("img3_3"), &next = player.Find("img3_4"), &button = player.Find("imgNewGame");
+        PictureButton::ShowFocus(false);
         QWindow* window = player.Window().windowHandle();
         const QPoint middle = cell.mapTo(&player.Window(), QPoint(25, 25));
         const auto painted = [&] { return player.Window().grab().toImage(); };

@@ -6,17 +6,11 @@
 #include "controls/PictureEffects.h"
 #include "platform/Int16.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 
 namespace {
-
-// A property of the window; Qt's own mark for this goes out with every change of the focus that no key asked for.
-constexpr char showsFocus[] = "showsKeyboardFocus";
-
-bool ShowsKeyboardFocus(const QWidget& window) {
-    return window.property(showsFocus).toBool();
-}
 
 bool IsModifier(int key) {
     return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr
@@ -49,15 +43,6 @@ void PictureFace::CountPixels(QPainter& painter) const {
     painter.scale(1 / ratio, 1 / ratio);
 }
 
-void ShowKeyboardFocus(QWidget& window, bool isShown) {
-    if (ShowsKeyboardFocus(window) != isShown) {
-        window.setProperty(showsFocus, isShown);
-        if (QWidget* focused = window.focusWidget()) {
-            focused->update();
-        }
-    }
-}
-
 Picture::Picture(QWidget* parent) : QWidget(parent), PictureFace(this) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
@@ -74,11 +59,20 @@ PictureButton::PictureButton(QWidget* parent, const HotArea& hotArea)
     setAttribute(Qt::WA_Hover);
 }
 
+void PictureButton::ShowFocus(bool isShown) {
+    if (isFocusShown_ != isShown) {
+        isFocusShown_ = isShown;
+        if (QWidget* focused = QApplication::focusWidget()) {
+            focused->update();
+        }
+    }
+}
+
 bool PictureButton::event(QEvent* event) {
     // A shortcut is asked for as an override first and never arrives as a key.
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
         if (!IsModifier(static_cast<QKeyEvent*>(event)->key())) {
-            ShowKeyboardFocus(*window(), true);
+            ShowFocus(true);
         }
     }
     return QAbstractButton::event(event);
@@ -93,7 +87,7 @@ void PictureButton::keyPressEvent(QKeyEvent* event) {
 }
 
 void PictureButton::mousePressEvent(QMouseEvent* event) {
-    ShowKeyboardFocus(*window(), false);
+    ShowFocus(false);
     QAbstractButton::mousePressEvent(event);
 }
 
@@ -111,7 +105,7 @@ void PictureButton::paintEvent(QPaintEvent*) {
     } else if (isNext_()) {
         effects.PaintNext();
     }
-    if (hasFocus() && ShowsKeyboardFocus(*window())) {
+    if (hasFocus() && isFocusShown_) {
         effects.PaintFocus();
     }
 }

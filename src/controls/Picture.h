@@ -40,9 +40,6 @@ private:
     std::int16_t index_ = 0;
 };
 
-// Has the window draw its keyboard focus, or not.
-void ShowKeyboardFocus(QWidget& window, bool isShown);
-
 // A picture to look at. Clicks go through it.
 class Picture final : public QWidget, public PictureFace {
 public:
@@ -80,6 +77,9 @@ public:
     void SetHint(std::function<QString()> hint) { hint_ = std::move(hint); }
     QString Hint() const { return hint_(); }
 
+    // Sets whether the focused button shows its focus. It does from the first key press until the mouse is used.
+    static void ShowFocus(bool isShown);
+
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -88,6 +88,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    static inline bool isFocusShown_ = false;
+
     HotArea hotArea_;
     std::function<bool()> wouldAct_ = [] { return true; };
     std::function<bool()> isNext_ = [] { return false; };

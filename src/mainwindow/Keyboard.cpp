@@ -23,7 +23,7 @@ std::int16_t Wrapped(std::int16_t number, int direction) {
 } // namespace
 
 void Form1::mousePressEvent(QMouseEvent* event) {
-    ShowKeyboardFocus(*this, false);
+    PictureButton::ShowFocus(false);
     QMainWindow::mousePressEvent(event);
 }
 
