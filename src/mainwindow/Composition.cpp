@@ -28,6 +28,12 @@ QString Suffix(const BoardLine& line) {
     return (isRow ? u"_row"_s : u"_col"_s) + QString::number(line.number);
 }
 
+// The place of a line's control. `first` is its place in the first row or column.
+QRectF PlaceFor(const BoardLine& line, const QRectF& first) {
+    const double step = Design::pitch * (line.number - 1);
+    return line.kind == BoardLine::Kind::Row ? first.translated(0, step) : first.translated(step, 0);
+}
+
 template <typename Control> Control* Named(Control* control, const QString& name) {
     control->setObjectName(name);
     return control;
@@ -46,9 +52,9 @@ void Form1::Compose() {
     auto* table = new GreenSurface<QWidget>;
     table->setAccessibleName(u"Game table"_s);
     setCentralWidget(table);
-    // Back to front: strike lines under the cells that they join; in the strip, which is crowded in a narrow window,
-    // the new-game button, the sum, the roll button and the dice.
-    ComposeStrikeLines(table);
+    // From back to front. Strike lines and markers lie under the cells, so that numbers and the focus stay visible. In
+    // a narrow window the sum covers the edge of the new-game button, and the roll button covers the sum.
+    ComposeStrikesAndMarkers(table);
     ComposeCells(table);
     ComposeReadOuts(table);
     ComposeButtonStrip(table);
@@ -78,11 +84,16 @@ void Form1::ComposeMenus() {
     addEntry(help, u"mnuHelpAbout"_s, u"&About Kelvaro"_s, {}, &Form1::mnuHelpAbout_Click);
 }
 
-void Form1::ComposeStrikeLines(QWidget* table) {
+void Form1::ComposeStrikesAndMarkers(QWidget* table) {
     for (const BoardLine& line : boardLines) {
-        auto* strike = new LineShape(table, Design::Strike(line), strikeThickness);
+        auto* strike = Named(new LineShape(table, Design::Strike(line), strikeThickness), u"lin"_s + Suffix(line));
         strike->hide();
-        lines_.push_back({.line = line, .strike = Named(strike, u"lin"_s + Suffix(line))});
+        const bool isRow = line.kind == BoardLine::Kind::Row;
+        auto* marker = Named(new Picture(table), u"img"_s + Suffix(line));
+        marker->SetPicture(isRow ? rowArrow_ : columnArrow_, 1);
+        Place(*marker, PlaceFor(line, isRow ? Design::rowMarker : Design::columnMarker));
+        marker->hide();
+        lines_.push_back({.line = line, .marker = marker, .strike = strike});
     }
 }
 
@@ -106,16 +117,11 @@ void Form1::ComposeCells(QWidget* table) {
 
 void Form1::ComposeReadOuts(QWidget* table) {
     for (LineControls& controls : lines_) {
-        const bool isRow = controls.line.kind == BoardLine::Kind::Row;
-        const double step = Design::pitch * (controls.line.number - 1);
-        const QPointF shift = isRow ? QPointF(0, step) : QPointF(step, 0);
-        controls.marker = Named(new Picture(table), u"img"_s + Suffix(controls.line));
-        controls.marker->SetPicture(isRow ? rowArrow_ : columnArrow_, 1);
-        Place(*controls.marker, (isRow ? Design::rowMarker : Design::columnMarker).translated(shift));
-        controls.marker->hide();
-        controls.readOut = NewLabel(table, u"lbl"_s + Suffix(controls.line), TypeSize::Chart, Qt::AlignHCenter);
+        const BoardLine& line = controls.line;
+        const bool isRow = line.kind == BoardLine::Kind::Row;
+        controls.readOut = NewLabel(table, u"lbl"_s + Suffix(line), TypeSize::Chart, Qt::AlignHCenter);
         controls.readOut->SetCaption(u"55"_s);
-        Place(*controls.readOut, (isRow ? Design::rowReadOut : Design::columnReadOut).translated(shift));
+        Place(*controls.readOut, PlaceFor(line, isRow ? Design::rowReadOut : Design::columnReadOut));
         controls.readOut->hide();
     }
     lblTotal_ = NewLabel(table, u"lblTotal"_s, TypeSize::Numeral, Qt::AlignHCenter);

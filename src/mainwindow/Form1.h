@@ -90,7 +90,7 @@ private:
     // mainwindow/: composition
     void Compose();
     void ComposeMenus();
-    void ComposeStrikeLines(QWidget* table);
+    void ComposeStrikesAndMarkers(QWidget* table);
     void ComposeCells(QWidget* table);
     void ComposeReadOuts(QWidget* table);
     void ComposeButtonStrip(QWidget* table);
