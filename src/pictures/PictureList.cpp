@@ -33,9 +33,10 @@ QPixmap PictureList::Rendering(std::int16_t index, const QSize& size) const {
     QPixmap& rendering = At(index).renderings[size];
     if (rendering.isNull()) {
         const QImage& own = Image(index);
-        const QImage source = own.size().expandedTo(size) == own.size() ? own : QImage(At(index).largeFileName);
-        rendering = QPixmap::fromImage(
-            source.size() == size ? source : source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        const QImage source = own.size() == size ? own : QImage(At(index).largeFileName);
+        // Pictures with a palette would be scaled without smoothing.
+        rendering = QPixmap::fromImage(source.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                                           .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     return rendering;
 }
