@@ -51,8 +51,8 @@ inline constexpr QRectF secondDie{1080, 5880, 750, 750};
 // What lights up: the inside of a cell's dotted edge, a disc, and the plates of the two picture buttons. In pixels.
 inline constexpr PictureButton::HotArea emptyCellArea{{2.9, 2.9, 2.9, 2.9}, 3, 0};
 inline constexpr PictureButton::HotArea discArea{{2, 2, 2, 2}, 23, 0};
-inline constexpr PictureButton::HotArea rollPlate{{18, 10, 14, 13}, 14, 3};
-inline constexpr PictureButton::HotArea newGamePlate{{30, 10, 2, 13}, 14, 3};
+inline constexpr PictureButton::HotArea rollPlate{{18, 6, 14, 17}, 14, 2};
+inline constexpr PictureButton::HotArea newGamePlate{{30, 6, 2, 17}, 14, 2};
 
 inline constexpr QLineF Strike(const BoardLine& line) {
     const auto& strikes = line.kind == BoardLine::Kind::Row ? rowStrikes : columnStrikes;
