@@ -97,15 +97,22 @@ void PictureButton::paintEvent(QPaintEvent*) {
     const QPixmap face = Face();
     painter.drawPixmap(0, 0, face);
 
+    const bool isPressed = isDown() && wouldAct_();
+    const bool isHovered = underMouse() && wouldAct_();
+    const bool isFocusShown = hasFocus() && isFocusShown_;
     const PictureEffects effects(painter, face, hotArea_, devicePixelRatioF());
-    if (isDown() && wouldAct_()) {
-        effects.PaintPressed();
-    } else if (underMouse() && wouldAct_()) {
-        effects.PaintHover();
-    } else if (isNext_()) {
+    if (isPressed) {
+        effects.MoveDown();
+    }
+    if (isNext_()) {
         effects.PaintNext();
     }
-    if (hasFocus() && isFocusShown_) {
+    if (isPressed) {
+        effects.PaintPressed();
+    } else if (isHovered) {
+        effects.PaintHover();
+    }
+    if (isFocusShown) {
         effects.PaintFocus();
     }
 }

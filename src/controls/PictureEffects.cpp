@@ -11,8 +11,17 @@ constexpr QColor faintLight(0, 255, 0, 40);
 constexpr QColor light(255, 255, 255, 90);
 constexpr QColor faintEdge(184, 226, 156);
 constexpr QColor warmth(255, 250, 210);
-constexpr QColor shade(196, 196, 196);
-constexpr qreal edgeWidth = 2; // of the design's pixels
+constexpr QColor shade(170, 170, 170);
+
+constexpr qreal edgeWidth = 2; // in pixels of the design
+
+// Multiplied with the ivory of a plate, this gives the gold of the roll button.
+QBrush Gold() {
+    QLinearGradient gold(0, 0, 0, 1);
+    gold.setCoordinateMode(QGradient::ObjectMode);
+    gold.setStops({{0, QColor(255, 238, 178)}, {0.5, QColor(255, 218, 83)}, {1, QColor(255, 194, 40)}});
+    return gold;
+}
 
 } // namespace
 
@@ -26,11 +35,23 @@ PictureEffects::PictureEffects(QPainter& painter, const QPixmap& face, const Pic
     painter_.setRenderHint(QPainter::Antialiasing);
 }
 
-void PictureEffects::PaintNext() const {
-    if (!IsPlate()) { // a plate is light as it is
-        Fill(faintLight, QPainter::CompositionMode_SourceOver);
+void PictureEffects::MoveDown() const {
+    if (IsPlate()) {
+        // The plate covers its shadow, and the table appears above it.
+        painter_.fillRect(area_.left() - 1, area_.top() - 1, area_.width() + 2, area_.height() / 2, Colours::table);
+        painter_.translate(0, drop_);
+        Fill(face_, QPainter::CompositionMode_SourceOver);
     }
-    Frame(faintEdge, -edge_);
+}
+
+void PictureEffects::PaintNext() const {
+    if (IsPlate()) {
+        Fill(Gold(), QPainter::CompositionMode_Multiply);
+        Frame(Colours::chart, -edge_);
+    } else {
+        Fill(faintLight, QPainter::CompositionMode_SourceOver);
+        Frame(faintEdge, -edge_);
+    }
 }
 
 void PictureEffects::PaintHover() const {
@@ -44,12 +65,7 @@ void PictureEffects::PaintPressed() const {
     if (!IsPlate()) {
         Fill(shade, QPainter::CompositionMode_Multiply);
         Frame(Colours::chart, -edge_);
-        return;
     }
-    // The face goes down onto its shadow, and what is yet to be painted goes with it; where it was is table.
-    painter_.fillRect(area_.left() - 1, area_.top() - 1, area_.width() + 2, area_.height() / 2, Colours::table);
-    painter_.translate(0, drop_);
-    Fill(face_, QPainter::CompositionMode_SourceOver);
 }
 
 void PictureEffects::PaintFocus() const {

@@ -15,9 +15,10 @@ class PictureEffects {
 public:
     PictureEffects(QPainter& painter, const QPixmap& face, const PictureButton::HotArea& hotArea, qreal ratio);
 
+    void MoveDown() const; // moves a plate, and what is painted after it
     void PaintNext() const;
     void PaintHover() const;
-    void PaintPressed() const; // moves the painter along with the face
+    void PaintPressed() const;
     void PaintFocus() const;
 
 private:
