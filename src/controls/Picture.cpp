@@ -112,6 +112,9 @@ void PictureButton::paintEvent(QPaintEvent*) {
     } else if (isHovered) {
         effects.PaintHover();
     }
+    if (const std::int16_t preview = preview_(); preview != 0 && (isPressed || isHovered || isFocusShown)) {
+        effects.PaintPreview(Rendering(preview, effects.PreviewPlace().size()));
+    }
     if (isFocusShown) {
         effects.PaintFocus();
     }

@@ -31,6 +31,9 @@ protected:
     // The picture as it comes to the screen, one pixel for each of the screen's.
     QPixmap Face() const;
 
+    // Another picture of the same list, in device pixels.
+    QPixmap Rendering(std::int16_t index, const QSize& size) const { return list_->Rendering(index, size); }
+
     // Has the painter count the screen's pixels from the picture's corner on.
     void CountPixels(QPainter& painter) const;
 
@@ -73,7 +76,10 @@ public:
     // Tells the button how to find out whether it is the next to be clicked; without this it never is.
     void SetIsNext(std::function<bool()> isNext) { isNext_ = std::move(isNext); }
 
-    // What a screen reader says after the button's name, found out whenever it asks; nothing at first.
+    // The index of the picture that a click would show, or 0. Without this there is no preview.
+    void SetPreview(std::function<std::int16_t()> preview) { preview_ = std::move(preview); }
+
+    // What a screen reader says after the button's name. Without this there is no hint.
     void SetHint(std::function<QString()> hint) { hint_ = std::move(hint); }
     QString Hint() const { return hint_(); }
 
@@ -93,5 +99,6 @@ private:
     HotArea hotArea_;
     std::function<bool()> wouldAct_ = [] { return true; };
     std::function<bool()> isNext_ = [] { return false; };
+    std::function<std::int16_t()> preview_ = [] { return std::int16_t{0}; };
     std::function<QString()> hint_ = [] { return QString(); };
 };

@@ -13,7 +13,9 @@ constexpr QColor faintEdge(184, 226, 156);
 constexpr QColor warmth(255, 250, 210);
 constexpr QColor shade(170, 170, 170);
 
-constexpr qreal edgeWidth = 2; // in pixels of the design
+// In pixels of the design.
+constexpr qreal edgeWidth = 2;
+constexpr qreal previewMargin = 3;
 
 // Multiplied with the ivory of a plate, this gives the gold of the roll button.
 QBrush Gold() {
@@ -55,7 +57,7 @@ void PictureEffects::PaintNext() const {
 }
 
 void PictureEffects::PaintHover() const {
-    // Blended so that dark lettering stays dark and white stays light.
+    // These modes keep dark lettering dark and white lettering light.
     Fill(light, QPainter::CompositionMode_Overlay);
     Fill(warmth, QPainter::CompositionMode_Multiply);
     Frame(Colours::chart, -edge_);
@@ -68,8 +70,22 @@ void PictureEffects::PaintPressed() const {
     }
 }
 
+QRect PictureEffects::PreviewPlace() const {
+    const int margin = Pixels(previewMargin);
+    return area_.adjusted(margin, margin, -margin, -margin);
+}
+
+void PictureEffects::PaintPreview(const QPixmap& disc) const {
+    const QRect place = PreviewPlace();
+    QBrush brush(disc);
+    brush.setTransform(QTransform::fromTranslate(place.x(), place.y()));
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(brush);
+    painter_.drawEllipse(place); // without the corners, which have the colour of the table
+}
+
 void PictureEffects::PaintFocus() const {
-    // Black inside white: one of the two stands out against whatever lies under it.
+    // Black inside white: one of the two stands out on any background.
     Frame(Colours::white, -edge_);
     Frame(Colours::black, 0);
 }
@@ -82,7 +98,7 @@ void PictureEffects::Fill(const QBrush& brush, QPainter::CompositionMode mode) c
     painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
-// A line of the edges' width whose outside keeps `inset` from the outside of the hot area, concentric with it.
+// A line of the edge's width along the hot area. Its outer side lies `inset` device pixels inside the area.
 void PictureEffects::Frame(const QColor& colour, int inset) const {
     const qreal middle = inset + edge_ / 2.0;
     painter_.setPen(QPen(colour, edge_));

@@ -9,8 +9,9 @@
 #include <QPixmap>
 #include <QRect>
 
-// What a picture button lays over its picture. The painter counts the screen's pixels, `ratio` of them to each of the
-// design's; all edges are on whole ones.
+// The effects that a picture button paints over its picture: that it is next, hovered, pressed or focused, and the
+// preview. The painter is scaled to device pixels; `ratio` device pixels are one pixel of the design. All edges lie on
+// whole device pixels.
 class PictureEffects {
 public:
     PictureEffects(QPainter& painter, const QPixmap& face, const PictureButton::HotArea& hotArea, qreal ratio);
@@ -21,8 +22,12 @@ public:
     void PaintPressed() const;
     void PaintFocus() const;
 
+    // The preview is a disc inside the frame of a cell. `disc` has the size of its place.
+    QRect PreviewPlace() const;
+    void PaintPreview(const QPixmap& disc) const;
+
 private:
-    bool IsPlate() const { return drop_ > 0; } // or a cell, which stays where it is
+    bool IsPlate() const { return drop_ > 0; } // otherwise it is a cell
     int Pixels(qreal design) const { return qRound(design * ratio_); }
     void Fill(const QBrush& brush, QPainter::CompositionMode mode) const;
     void Frame(const QColor& colour, int inset) const;

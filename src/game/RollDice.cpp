@@ -46,6 +46,7 @@ void Form1::RollDice() {
     const std::int16_t firstDie = RollDie(platform_.nextUniform());
     const std::int16_t secondDie = RollDie(platform_.nextUniform());
     pendingRoll_ = CheckedAdd(secondDie, firstDie);
+    isRollRevealed_ = false;
     imgRolled1_->SetPicture(imageList1_, firstDie);
     imgRolled2_->SetPicture(imageList1_, secondDie);
     NameShownDie(*imgRolled2_, u"Second"_s); // shown when a roll under way goes on after its placement
@@ -61,8 +62,10 @@ void Form1::RollDice() {
     NameShownDie(*imgRolled2_, u"Second"_s);
     Pause();
     ShowSum(u"= %1"_s.arg(pendingRoll_));
+    isRollRevealed_ = true;
     SetPrompt(Prompts::select);
     AnnounceNews();
+    RepaintEffects();
 }
 
 // A count of passes on purpose, not a time.

@@ -107,6 +107,7 @@ void Form1::ComposeCells(QWidget* table) {
         const auto isOpen = [=, this] { return pendingRoll_ != 0 && board_.At(row, column) == 0; };
         cell->SetWouldAct(isOpen);
         cell->SetIsNext(isOpen);
+        cell->SetPreview([=, this] { return isOpen() ? RevealedRoll() : RollValue{0}; });
         // Not before the roll itself has been announced.
         cell->SetHint(
             [=, this] { return isOpen() && news_.isEmpty() ? SpokenNames::Waiting(pendingRoll_) : QString(); });

@@ -98,6 +98,7 @@ private:
 
     // mainwindow/: what the routines ask of the controls
     PictureButton& Cell(std::int16_t row, std::int16_t column) const;
+    RollValue RevealedRoll() const { return isRollRevealed_ ? pendingRoll_ : RollValue{0}; }
     // What is seen and what is spoken of a cell, as the board has it, and of the sum, as the pending roll is.
     void ShowCell(PictureButton& cell, std::int16_t row, std::int16_t column);
     void ShowSum(const QString& caption);
@@ -133,6 +134,7 @@ private:
 
     Platform platform_;
     int nestedPauses_ = 0;
+    bool isRollRevealed_ = false; // or its pauses are still running
     bool isLoaded_ = false;
     bool isFrameKnown_ = false;
     QMargins frame_;
