@@ -24,6 +24,7 @@ bool HasSomethingToSay(const QWidget& control) {
                || qobject_cast<const QPushButton*>(&control) != nullptr);
 }
 
+// A green surface, with those of its children that have something to say.
 class AccessibleSurface final : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
@@ -31,29 +32,27 @@ public:
     int childCount() const override { return static_cast<int>(Controls().size()); }
 
     QAccessibleInterface* child(int index) const override {
-        const QWidgetList controls = Controls();
+        const QWidgetList controls = InReadingOrder(Controls());
         return index >= 0 && index < controls.size() ? QAccessible::queryAccessibleInterface(controls.at(index))
                                                      : nullptr;
     }
 
     int indexOfChild(const QAccessibleInterface* child) const override {
-        return child == nullptr ? -1 : static_cast<int>(Controls().indexOf(child->object()));
+        return child == nullptr ? -1 : static_cast<int>(InReadingOrder(Controls()).indexOf(child->object()));
     }
 
-    // Of two controls at the place, the one in front: it was made later.
     QAccessibleInterface* childAt(int x, int y) const override {
-        const QObjectList& children = widget()->children();
-        for (auto child = children.rbegin(); child != children.rend(); ++child) {
-            auto* control = qobject_cast<QWidget*>(*child);
-            if (control != nullptr && HasSomethingToSay(*control)
-                && control->rect().contains(control->mapFromGlobal(QPoint(x, y)))) {
-                return QAccessible::queryAccessibleInterface(control);
-            }
-        }
-        return nullptr;
+        QWidgetList controls = Controls();
+        std::reverse(controls.begin(), controls.end()); // the frontmost control first
+        const auto isThere = [=](const QWidget* control) {
+            return control->rect().contains(control->mapFromGlobal(QPoint(x, y)));
+        };
+        const auto found = std::ranges::find_if(controls, isThere);
+        return found == controls.end() ? nullptr : QAccessible::queryAccessibleInterface(*found);
     }
 
 private:
+    // In stacking order: the frontmost control is the last.
     QWidgetList Controls() const {
         QWidgetList controls;
         for (QObject* object : widget()->children()) {
@@ -62,12 +61,16 @@ private:
                 controls << control;
             }
         }
+        return controls;
+    }
+
+    // Line by line from the top; push buttons last.
+    static QWidgetList InReadingOrder(QWidgetList controls) {
         const auto readingOrder = [](const QWidget* control) {
             const QRect place = control->geometry();
             return std::tuple(qobject_cast<const QPushButton*>(control) != nullptr, place.bottom(), place.left());
         };
-        std::sort(controls.begin(), controls.end(),
-                  [&](const QWidget* a, const QWidget* b) { return readingOrder(a) < readingOrder(b); });
+        std::ranges::sort(controls, {}, readingOrder);
         return controls;
     }
 };
