@@ -146,7 +146,7 @@ private:
         pending_ = 0;
         sum_.clear();
         isDieShown_ = {false, false};
-        focus_ = IsFull() ? "imgNewGame" : "Image1";
+        focus_ = IsFull() ? "grid" : "Image1";
         prompt_ = IsFull() ? "Game Over!" : "Roll The Dice";
     }
 
@@ -183,6 +183,7 @@ private:
             news_ += lines + over + (lines.isEmpty() ? "" : QString("Total: %1 points. ").arg(Total()));
             if (IsFull()) {
                 Record();
+                focus_ = "imgNewGame";
             }
             Announce(news_.isEmpty() ? said_ : IsFull() ? "" : prompt_);
         } else {

@@ -12,12 +12,15 @@ void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column
         Refuse(board_.At(row, column) != 0 ? SpokenNames::filled : SpokenNames::noRoll);
         return;
     }
-    // Before the scoring, which takes rolling away again when the board is full.
+    // Before the scoring, which switches rolling off again if the board is full.
     image1_->show();
-    image1_->setFocus();
     mnuGameRoll_->setEnabled(true);
-
     board_.Set(row, column, pendingRoll_);
+    if (board_.IsFull()) {
+        cell.setFocus(); // the scoring moves the focus to New Game at its end
+    } else {
+        image1_->setFocus();
+    }
     ShowCell(cell, row, column);
     currentCell_ = {row, column}; // also where the scoring looks for lines that are now finished
     Tell(SpokenNames::Placed(row, column, pendingRoll_));

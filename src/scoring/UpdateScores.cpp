@@ -41,8 +41,8 @@ void Form1::UpdateScores() {
     }
     SetPrompt(Prompts::over);
     Tell(SpokenNames::Total(total));
-    imgNewGame_->setFocus();
     image1_->hide();
     mnuGameRoll_->setEnabled(false);
     RecordHighScore(total);
+    imgNewGame_->setFocus(); // last, because a screen reader that hears of it amid the high scores starts them again
 }
