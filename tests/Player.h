@@ -100,7 +100,7 @@ protected:
         const QString store = Bytes(storeName_);
         const QString canRoll = Find<QAction>("mnuGameRoll").isEnabled() ? "yes" : "no";
         const auto* prompt = window_->statusBar()->findChild<QLabel*>();
-        QStringList seen{"prompt " + prompt->text(), "said " + prompt->accessibleName(),
+        QStringList seen{"prompt " + prompt->text(), "said " + Find("Announcer").accessibleName(),
                          "menu " + canRoll,          "focus " + window_->focusWidget()->objectName(),
                          "store " + store,           "open " + open};
         for (const auto* control : window_->centralWidget()->findChildren<QWidget*>()) {

@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <tuple>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool HasSomethingToSay(const QWidget& control) {
@@ -75,7 +77,7 @@ private:
     }
 };
 
-// A button whose hint is found out when it is asked for.
+// A picture button, whose description is its hint.
 class AccessiblePictureButton final : public QAccessibleWidget {
 public:
     explicit AccessiblePictureButton(PictureButton* button)
@@ -87,13 +89,27 @@ public:
 
     QStringList actionNames() const override { return QStringList(pressAction()) + QAccessibleWidget::actionNames(); }
 
-    // A moment later, as a roll or a question takes longer than whoever asks for it waits.
+    // The press follows a moment later: the caller waits for this function, but not as long as a roll or a question
+    // takes.
     void doAction(const QString& name) override {
         name == pressAction() ? button_->animateClick() : QAccessibleWidget::doAction(name);
     }
 
 private:
     PictureButton* button_;
+};
+
+// The text in the status bar. Orca 48 and 51 skip a plain label when they read the status bar.
+class AccessiblePrompt final : public QAccessibleWidget {
+public:
+    explicit AccessiblePrompt(Label* prompt) : QAccessibleWidget(prompt, QAccessible::Client), prompt_(prompt) {}
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? prompt_->text() : QAccessibleWidget::text(kind);
+    }
+
+private:
+    Label* prompt_;
 };
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
@@ -110,7 +126,10 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
         return new QAccessibleWidget(picture, QAccessible::Graphic);
     }
     if (auto* label = dynamic_cast<Label*>(object); label != nullptr && qobject_cast<QStatusBar*>(label->parent())) {
-        return new QAccessibleWidget(label, QAccessible::Notification);
+        return new AccessiblePrompt(label);
+    }
+    if (auto* announcer = dynamic_cast<Announcer*>(object)) {
+        return new QAccessibleWidget(announcer, QAccessible::Notification);
     }
     return nullptr;
 }
@@ -121,16 +140,21 @@ void InstallAccessibility() {
     QAccessible::installFactory(MakeInterface);
 }
 
-void Announce(Label& label, const QString& news) {
-    label.setAccessibleName(news);
+Announcer::Announcer(QWidget* parent) : QWidget(parent) {
+    setObjectName(u"Announcer"_s);
+    hide();
+}
+
+void Announcer::Announce(const QString& text) {
+    setAccessibleName(text);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    QAccessibleAnnouncementEvent announcement(&label, news);
+    QAccessibleAnnouncementEvent event(this, text);
 #elif defined(Q_OS_WIN)
-    // There are no announcements yet, but a text that is a new value is handed on as one.
-    QAccessibleValueChangeEvent announcement(&label, news);
+    // This Qt has no announcement event, but it sends a new value that is a text as a notification.
+    QAccessibleValueChangeEvent event(this, text);
 #else
-    // Nor are there here, but the name of a notification that appears is spoken.
-    QAccessibleEvent announcement(&label, QAccessible::ObjectShow);
+    // This Qt has no announcement event, but a screen reader says the name of a notification that appears.
+    QAccessibleEvent event(this, QAccessible::ObjectShow);
 #endif
-    QAccessible::updateAccessibility(&announcement);
+    QAccessible::updateAccessibility(&event);
 }

@@ -3,16 +3,20 @@
 
 #pragma once
 
-class Label;
-class QString;
+#include <QWidget>
 
-// Makes green surfaces speak: of its children a surface lists those that are shown and have something to say, so that
-// neither hidden controls nor strike lines and arrows are found, from the top down, push buttons last. Surfaces have
-// the role of a client area or a dialog, pictures that of a graphic, and the status bar's label that of a notification.
-// A picture button's description is its hint, and it is pressed a moment after it was asked to be. Call once, before
-// the first window is made.
+// Sets up what a screen reader finds. Call it once, before the first window is made.
+//
+// A green surface (a client area or a dialog) lists only its visible children that have something to say: no hidden
+// controls, strike lines or arrows. They are listed line by line from the top, push buttons last. The description of a
+// picture button is its hint; if it is pressed through the accessibility interface, it acts a moment later.
 void InstallAccessibility();
 
-// Has a screen reader say the news after what it is saying. They stay the spoken name of the label, the status bar's,
-// whatever its text.
-void Announce(Label& label, const QString& news);
+// Makes a screen reader say something. It is a widget, because announcements have to come from one; it is never shown.
+class Announcer final : public QWidget {
+public:
+    explicit Announcer(QWidget* parent);
+
+    // The text is said after what is being said now.
+    void Announce(const QString& text);
+};

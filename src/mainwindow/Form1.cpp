@@ -11,6 +11,7 @@
 
 #include <QLayout>
 #include <QMenuBar>
+#include <QStatusBar>
 
 #include <utility>
 
@@ -24,9 +25,9 @@ constexpr QSize designClient(410, 487);
 } // namespace
 
 Form1::Form1(Platform platform)
-    : platform_(std::move(platform)), imageList1_(u"die"_s, u"jpg"_s, 6), imageList2_(u"cell"_s, u"png"_s, 13),
-      rollPicture_(u"roll"_s, u"png"_s), newGamePicture_(u"newgame"_s, u"png"_s), rowArrow_(u"arrow-right"_s, u"ico"_s),
-      columnArrow_(u"arrow-down"_s, u"ico"_s) {
+    : platform_(std::move(platform)), announcer_(new Announcer(statusBar())), imageList1_(u"die"_s, u"jpg"_s, 6),
+      imageList2_(u"cell"_s, u"png"_s, 13), rollPicture_(u"roll"_s, u"png"_s), newGamePicture_(u"newgame"_s, u"png"_s),
+      rowArrow_(u"arrow-right"_s, u"ico"_s), columnArrow_(u"arrow-down"_s, u"ico"_s) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Kelvaro"_s);
     setWindowIcon(QPixmap(u":/pictures/kelvaro.png"_s)); // not there on Windows, where it is the program's
@@ -70,10 +71,10 @@ void Form1::Tell(const QString& sentence) {
 
 void Form1::AnnounceNews() {
     if (!news_.isEmpty()) {
-        Announce(*prompt_, std::exchange(news_, {}).trimmed());
+        announcer_->Announce(std::exchange(news_, {}).trimmed());
     }
 }
 
 void Form1::Refuse(const QString& reason) {
-    Announce(*prompt_, reason + u'.');
+    announcer_->Announce(reason + u'.');
 }

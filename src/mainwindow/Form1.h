@@ -18,6 +18,7 @@
 #include <cstdint>
 #include <vector>
 
+class Announcer;
 class Label;
 class LineShape;
 class Picture;
@@ -133,6 +134,7 @@ private:
     HighScoreTable highScores_;
 
     Platform platform_;
+    Announcer* announcer_; // belongs to the status bar
     int nestedPauses_ = 0;
     bool isRollRevealed_ = false; // or its pauses are still running
     bool isLoaded_ = false;
