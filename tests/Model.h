@@ -58,7 +58,7 @@ protected:
         } else if (name == "mnuGameRoll" && CanRoll()) {
             Roll();
         } else if (control == "Ctrl+R") {
-            said_ = IsFull() ? "The game is over." : QString("%1 to place.").arg(pending_);
+            said_ = IsFull() ? "The game is over." : isRevealed_ ? QString("%1 to place.").arg(pending_) : said_;
         } else if (name == "mnuNewGame" && IsFull()) {
             NewGame();
         } else if (dialogs.contains(name)) {
@@ -107,7 +107,7 @@ private:
         open_ = entry;
         button_ = 0;
         if (entry == "mnuGameHigh") {
-            title_ = std::exchange(news_, {}) + "High Scores";
+            title_ = news_.isEmpty() ? "" : std::exchange(news_, {}) + "High Scores";
             Load();
         }
         InDialog();
@@ -135,7 +135,7 @@ private:
         board_ = Sums(25);
         current_ = 0;
         Clear();
-        Announce("New game. " + prompt_);
+        Announce("New game.");
     }
 
     // Everything that is new since the last time.
@@ -158,6 +158,7 @@ private:
         seed_ = ReadClock().time().second();
         faces_ = dice_;
         pending_ = dice_[0] + dice_[1];
+        isRevealed_ = false;
         news_ += QString("%1 and %2: %3. ").arg(dice_[0]).arg(dice_[1]).arg(pending_);
         const bool pauses = underWay_ < 64;
         ++underWay_;
@@ -170,7 +171,8 @@ private:
         passes_ = pauses ? 2 * pause : 0;
         sum_ = QString("= %1").arg(pending_);
         prompt_ = "Select A Location for the Roll on the Grid";
-        Announce(news_.isEmpty() ? said_ : prompt_);
+        isRevealed_ = true;
+        Announce(news_.isEmpty() ? said_ : "");
     }
 
     void Put(int cell) {
@@ -185,7 +187,7 @@ private:
                 Record();
                 focus_ = "imgNewGame";
             }
-            Announce(news_.isEmpty() ? said_ : IsFull() ? "" : prompt_);
+            Announce(news_.isEmpty() ? said_ : "");
         } else {
             said_ = board_[cell] > 0 ? "This cell is filled." : "There is no roll to place.";
         }
@@ -208,6 +210,8 @@ private:
             std::ranges::stable_sort(table_, std::greater(), &Table::value_type::first);
             const auto isAbove = [this](const auto& entry) { return entry.first >= Total(); };
             news_ += QString("Rank %1. ").arg(std::ranges::count_if(table_, isAbove));
+        } else {
+            news_ += "Not among the five best. ";
         }
         store_ = StoreOf(table_);
         if (isEntered) {
@@ -314,5 +318,6 @@ private:
     int pending_ = 0, current_ = 0, button_ = 0, underWay_ = 0;
     QString said_, news_, title_, prompt_, sum_, open_, focus_, store_;
     QSize outer_;
+    bool isRevealed_ = false;
     Table table_;
 };

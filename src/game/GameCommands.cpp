@@ -5,7 +5,6 @@
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmHelp.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/SpokenNames.h"
 
 #include <QAction>
 #include <QMessageBox>
@@ -21,7 +20,7 @@ bool Confirm(QWidget* window, const QString& question) {
     }
     QMessageBox box(QMessageBox::NoIcon, u"Kelvaro"_s, question, QMessageBox::Yes | QMessageBox::No, window);
     box.setDefaultButton(QMessageBox::Yes);
-    box.setTextInteractionFlags(Qt::NoTextInteraction); // a screen reader passes over a label that can have the focus
+    box.setTextInteractionFlags(Qt::NoTextInteraction); // a screen reader skips text that can take the focus
     return box.exec() == QMessageBox::Yes;
 }
 
@@ -35,7 +34,7 @@ void Form1::Form_Load() {
 void Form1::StartNewGame() {
     board_.Clear();
     pendingRoll_ = 0;
-    Tell(SpokenNames::newGame);
+    speech_.NewGame();
     UpdateScores();
     for (const CellPosition& cell : boardCells) {
         ShowCell(Cell(cell.row, cell.column), cell.row, cell.column);
@@ -48,7 +47,7 @@ void Form1::StartNewGame() {
     ShowSum(QString());
     currentCell_ = {};
     RepaintEffects();
-    AnnounceNews();
+    speech_.Announce();
 }
 
 void Form1::imgNewGame_Click() {

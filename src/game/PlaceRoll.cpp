@@ -3,13 +3,12 @@
 
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/SpokenNames.h"
 
 #include <QAction>
 
 void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column) {
     if (board_.At(row, column) != 0 || pendingRoll_ == 0) {
-        Refuse(board_.At(row, column) != 0 ? SpokenNames::filled : SpokenNames::noRoll);
+        speech_.RefuseCell(board_.At(row, column) != 0);
         return;
     }
     // Before the scoring, which switches rolling off again if the board is full.
@@ -22,13 +21,13 @@ void Form1::PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column
         image1_->setFocus();
     }
     ShowCell(cell, row, column);
-    currentCell_ = {row, column}; // also where the scoring looks for lines that are now finished
-    Tell(SpokenNames::Placed(row, column, pendingRoll_));
+    currentCell_ = {row, column};
+    speech_.Placed(currentCell_, pendingRoll_);
     pendingRoll_ = 0;
     ShowSum(QString());
     imgRolled1_->hide();
     imgRolled2_->hide();
     RepaintEffects();
     UpdateScores();
-    AnnounceNews();
+    speech_.Announce();
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
+#include "controls/Label.h"
 #include "controls/Picture.h"
 #include "game/Dice.h"
 #include "mainwindow/Form1.h"
@@ -49,8 +50,8 @@ void Form1::RollDice() {
     isRollRevealed_ = false;
     imgRolled1_->SetPicture(imageList1_, firstDie);
     imgRolled2_->SetPicture(imageList1_, secondDie);
-    NameShownDie(*imgRolled2_, u"Second"_s); // shown when a roll under way goes on after its placement
-    Tell(SpokenNames::Thrown(firstDie, secondDie));
+    NameShownDie(*imgRolled2_, u"Second"_s); // shown if an earlier roll was placed inside its pause
+    speech_.Rolled(firstDie, secondDie);
 
     // The roll may be placed, or a new game begun, inside either pause; what follows is done all the same,
     // from the fields as they then stand.
@@ -63,8 +64,8 @@ void Form1::RollDice() {
     Pause();
     ShowSum(u"= %1"_s.arg(pendingRoll_));
     isRollRevealed_ = true;
-    SetPrompt(Prompts::select);
-    AnnounceNews();
+    prompt_->SetCaption(Prompts::select);
+    speech_.Announce();
     RepaintEffects();
 }
 

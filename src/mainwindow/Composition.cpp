@@ -108,9 +108,7 @@ void Form1::ComposeCells(QWidget* table) {
         cell->SetWouldAct(isOpen);
         cell->SetIsNext(isOpen);
         cell->SetPreview([=, this] { return isOpen() ? RevealedRoll() : RollValue{0}; });
-        // Not before the roll itself has been announced.
-        cell->SetHint(
-            [=, this] { return isOpen() && news_.isEmpty() ? SpokenNames::Waiting(pendingRoll_) : QString(); });
+        cell->SetHint([=, this] { return cell == &CurrentCell() ? speech_.StepHint(RevealedRoll()) : QString(); });
         connect(cell, &PictureButton::clicked, this, [=, this] { PlaceRoll(*cell, row, column); });
         cells_[Board::Element(row, column)] = cell;
     }

@@ -3,7 +3,6 @@
 
 #include "mainwindow/Form1.h"
 
-#include "controls/Accessibility.h"
 #include "controls/Label.h"
 #include "controls/Picture.h"
 #include "mainwindow/Design.h"
@@ -25,12 +24,12 @@ constexpr QSize designClient(410, 487);
 } // namespace
 
 Form1::Form1(Platform platform)
-    : platform_(std::move(platform)), announcer_(new Announcer(statusBar())), imageList1_(u"die"_s, u"jpg"_s, 6),
+    : platform_(std::move(platform)), speech_(statusBar()), imageList1_(u"die"_s, u"jpg"_s, 6),
       imageList2_(u"cell"_s, u"png"_s, 13), rollPicture_(u"roll"_s, u"png"_s), newGamePicture_(u"newgame"_s, u"png"_s),
       rowArrow_(u"arrow-right"_s, u"ico"_s), columnArrow_(u"arrow-down"_s, u"ico"_s) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Kelvaro"_s);
-    setWindowIcon(QPixmap(u":/pictures/kelvaro.png"_s)); // not there on Windows, where it is the program's
+    setWindowIcon(QPixmap(u":/pictures/kelvaro.png"_s)); // on Windows, the icon of the program is used instead
     Compose();
 
     // The floor of the window's size is the layout's own.
@@ -56,25 +55,4 @@ void Form1::ShowSum(const QString& caption) {
 
 void Form1::RepaintEffects() {
     centralWidget()->update();
-}
-
-void Form1::SetPrompt(const QString& prompt) {
-    prompt_->SetCaption(prompt);
-    if (!news_.isEmpty()) {
-        news_ += prompt + u' ';
-    }
-}
-
-void Form1::Tell(const QString& sentence) {
-    news_ += sentence + u". "_s;
-}
-
-void Form1::AnnounceNews() {
-    if (!news_.isEmpty()) {
-        announcer_->Announce(std::exchange(news_, {}).trimmed());
-    }
-}
-
-void Form1::Refuse(const QString& reason) {
-    announcer_->Announce(reason + u'.');
 }

@@ -6,6 +6,7 @@
 #include "game/Board.h"
 #include "game/RollValue.h"
 #include "highscores/HighScoreTable.h"
+#include "mainwindow/Speech.h"
 #include "pictures/PictureList.h"
 #include "platform/Platform.h"
 #include "scoring/BoardLines.h"
@@ -18,7 +19,6 @@
 #include <cstdint>
 #include <vector>
 
-class Announcer;
 class Label;
 class LineShape;
 class Picture;
@@ -105,13 +105,6 @@ private:
     void ShowSum(const QString& caption);
     // Lets the pictures follow a change of what is next and of what a click on them would do.
     void RepaintEffects();
-    void SetPrompt(const QString& prompt);
-
-    // mainwindow/: news for a screen reader. A routine tells what happens where it happens, and announces all that was
-    // told, together with the prompt, when it is done.
-    void Tell(const QString& sentence);
-    void AnnounceNews();
-    void Refuse(const QString& reason); // at once; what is told and not yet announced waits
 
     // mainwindow/: keyboard. The grid, the roll button and the new-game button are one stop of the Tab key each.
     void FollowFocus(); // a screen reader moves the focus without a key
@@ -134,15 +127,14 @@ private:
     HighScoreTable highScores_;
 
     Platform platform_;
-    Announcer* announcer_; // belongs to the status bar
+    Speech speech_;
     int nestedPauses_ = 0;
     bool isRollRevealed_ = false; // or its pauses are still running
     bool isLoaded_ = false;
     bool isFrameKnown_ = false;
     QMargins frame_;
     QSize enlargedFrom_;       // the last client size that was below the minimum
-    CellPosition currentCell_; // where the keyboard is in the grid
-    QString news_;             // told and not yet announced
+    CellPosition currentCell_; // where the arrow keys start
 
     PictureList imageList1_;
     PictureList imageList2_;

@@ -3,7 +3,6 @@
 
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
-#include "mainwindow/SpokenNames.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -31,7 +30,7 @@ void Form1::keyPressEvent(QKeyEvent* event) {
     if ((event->modifiers() & ~Qt::KeypadModifier) != 0) {
         // Only a disabled entry leaves its shortcut alone.
         if (mnuGameRoll_->shortcut() == QKeySequence(event->keyCombination())) {
-            Refuse(board_.IsFull() ? SpokenNames::over : SpokenNames::Waiting(pendingRoll_));
+            speech_.RefuseRoll(RevealedRoll(), board_.IsFull());
         }
         QMainWindow::keyPressEvent(event);
         return;
@@ -65,6 +64,7 @@ void Form1::keyPressEvent(QKeyEvent* event) {
     if (focusWidget() == &CurrentCell()) {
         currentCell_ = {row, column};
     }
+    speech_.StepTaken();
     CurrentCell().setFocus(Qt::OtherFocusReason);
 }
 

@@ -31,23 +31,7 @@ QString SpokenNames::Roll(RollValue sum) {
     return sum == 0 ? u"No roll"_s : u"Sum of the roll: %1"_s.arg(sum);
 }
 
-QString SpokenNames::Waiting(RollValue sum) {
-    return u"%1 to place"_s.arg(sum);
-}
-
 QString SpokenNames::Rank(std::int16_t rank, const HighScoreEntry& entry) {
     const QString text = entry.text.isEmpty() ? QString() : u", "_s + entry.text;
     return u"Rank %1: %2 points"_s.arg(rank).arg(entry.score) + text;
-}
-
-QString SpokenNames::Thrown(std::int16_t firstDie, std::int16_t secondDie) {
-    return u"%1 and %2: %3"_s.arg(firstDie).arg(secondDie).arg(firstDie + secondDie);
-}
-
-QString SpokenNames::Placed(std::int16_t row, std::int16_t column, RollValue value) {
-    return u"%1 in row %2, column %3"_s.arg(value).arg(row).arg(column);
-}
-
-QString SpokenNames::Entered(std::int16_t rank) {
-    return u"Rank %1"_s.arg(rank);
 }

@@ -12,14 +12,8 @@
 
 struct BoardLine;
 
-// What a screen reader says: of the controls that show the game, and of what happens.
+// The names that a screen reader gives the controls that show the game.
 namespace SpokenNames {
-
-inline const QString newGame = QStringLiteral("New game");
-inline const QString filled = QStringLiteral("This cell is filled");
-inline const QString noRoll = QStringLiteral("There is no roll to place");
-inline const QString over = QStringLiteral("The game is over");
-inline const QString reset = QStringLiteral("The scores are reset");
 
 // "Row 2, column 4: 7", or "empty" for a value of 0.
 QString Cell(std::int16_t row, std::int16_t column, RollValue value);
@@ -36,15 +30,7 @@ QString Die(const QString& ordinal, std::int16_t pips);
 // "Sum of the roll: 7", or "No roll" for 0.
 QString Roll(RollValue sum);
 
-// "7 to place".
-QString Waiting(RollValue sum);
-
 // "Rank 2: 90 points, 2026/11/15 0:59", or "Rank 5: 0 points" without a text.
 QString Rank(std::int16_t rank, const HighScoreEntry& entry);
-
-// "3 and 4: 7", "7 in row 2, column 4", "Rank 2".
-QString Thrown(std::int16_t firstDie, std::int16_t secondDie);
-QString Placed(std::int16_t row, std::int16_t column, RollValue value);
-QString Entered(std::int16_t rank);
 
 } // namespace SpokenNames

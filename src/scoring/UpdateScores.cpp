@@ -13,16 +13,12 @@
 
 void Form1::UpdateScores() {
     std::int16_t total = 0;
-    bool isLineFinished = false;
     for (const LineControls& controls : lines_) {
         const auto score = ScoreLine(controls.line, board_);
         if (score) {
             controls.readOut->SetCaption(QString::number(*score));
             controls.readOut->setAccessibleName(SpokenNames::Line(controls.line, *score));
-            if (controls.line.Holds(currentCell_)) { // the cell that was just placed
-                isLineFinished = true;
-                Tell(controls.readOut->accessibleName());
-            }
+            speech_.LineScored(controls.line, *score);
         }
         controls.readOut->setVisible(score.has_value());
         controls.marker->setVisible(score.has_value());
@@ -33,14 +29,13 @@ void Form1::UpdateScores() {
     lblTotal_->setAccessibleName(SpokenNames::Total(total));
 
     if (!board_.IsFull()) {
-        if (isLineFinished) {
-            Tell(SpokenNames::Total(total));
-        }
-        SetPrompt(Prompts::roll);
+        prompt_->SetCaption(Prompts::roll);
+        speech_.TotalScored(total);
         return;
     }
-    SetPrompt(Prompts::over);
-    Tell(SpokenNames::Total(total));
+    prompt_->SetCaption(Prompts::over);
+    speech_.GameOver();
+    speech_.TotalScored(total);
     image1_->hide();
     mnuGameRoll_->setEnabled(false);
     RecordHighScore(total);
