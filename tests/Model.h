@@ -3,146 +3,131 @@
 
 #pragma once
 
-#include "Teller.h"
+#include "Dialogs.h"
+#include "Performer.h"
+#include "Worths.h"
 
-#include <algorithm>
-
-// Points and name of a hand, by how often each of a line's sums is there, most often first, or by how many of them
-// follow one another.
-inline const QString worths =
-    "|5=50 Five of a Kind|run of 5=40 Large Straight|run of 4=30 Small Straight|32=25 Full House|41=20 Four of a Kind|"
-    "221=15 Two Pair|311=10 Three of a Kind|2111=5 Pair|11111=0 No hand|";
-
-using Sums = QList<std::int16_t>; // of two dice; 0 for an empty cell
-
-inline QString WorthOf(const Sums& line) {
-    QString counts, present;
-    for (std::int16_t sum = 2; sum <= 12; ++sum) {
-        const auto count = line.count(sum);
-        present += count > 0 ? 'x' : ' ';
-        counts += count > 0 ? QString::number(count) : "";
-    }
-    std::ranges::sort(counts, std::greater());
-    const QString key = present.contains("xxxxx") ? "run of 5" : present.contains("xxxx") ? "run of 4" : counts;
-    return worths.section('|' + key + '=', 1).section('|', 0, 0);
-}
-
-// The rules of the game told a second time, with nothing of the game's own code. Cells are counted from 0, row by row,
-// and lines from 0, rows first.
-class Model final : public Teller {
+// Works out what must be seen from the rules alone: it shares no code with the game. Cells count from 0, row by row;
+// lines count from 0, the five rows first.
+class Model final : public Performer {
 public:
     Model() { Start(); }
 
-protected:
-    void Start() override {
-        outer_ = floor;
-        table_ = Table(5);
-        faces_ = {1, 1};
-        Load();
-        NewGame();
-    }
-
-    void SetStore(const QString& content) override { store_ = content; }
-    void Resize(const QSize& outer) override { outer_ = outer.expandedTo(floor); }
-    bool IsDialogOpen() const override { return !open_.isEmpty(); }
-
-    void Press(const QString& word) override {
-        static const QMap<QString, QString> entries{{"Image1", "mnuGameRoll"}, {"imgNewGame", "mnuNewGame"},
-                                                    {"Ctrl+R", "mnuGameRoll"}, {"Ctrl+N", "mnuNewGame"},
-                                                    {"Ctrl+Q", "mnuGameExit"}, {"F1", "mnuHelpHow"}};
-        const QString focused = IsDialogOpen() ? dialogs[open_][1 + button_] : Focused();
-        const QString control = IsOneOf(word, "Space Return Enter") ? focused : word;
-        const QString name = entries.value(control, control);
-        if (IsDialogOpen()) {
-            Answer(control);
-        } else if (name == "mnuGameRoll" && CanRoll()) {
-            Roll();
-        } else if (control == "Ctrl+R") {
-            said_ = IsFull() ? "The game is over." : isRevealed_ ? QString("%1 to place.").arg(pending_) : said_;
-        } else if (name == "mnuNewGame" && IsFull()) {
-            NewGame();
-        } else if (dialogs.contains(name)) {
-            Show(name);
-        } else if (name == "close") {
-            hasEnded_ = true;
-        } else if (name.startsWith("img")) {
-            Put(5 * name[3].digitValue() + name[5].digitValue() - 6);
-        } else {
-            Move(name);
-        }
-    }
-
-    QStringList See() const override {
-        QString open = dialogs.value(open_, {""}).first() + (open_ == "mnuGameHigh" ? title_ : "");
-        for (const auto& [score, text] : open_ == "mnuGameHigh" ? table_ : Table()) {
-            open += QString("%1  %2|").arg(score).arg(text);
-        }
-        const QString canRoll = CanRoll() ? "yes" : "no";
-        return QStringList{"prompt " + prompt_,  "said " + said_.trimmed(), "menu " + canRoll,
-                           "focus " + Focused(), "store " + store_,         "open " + open}
-               + SeeGrid() + SeeStrip();
-    }
-
 private:
-    static bool IsOneOf(const QString& word, const QString& words) { return words.split(' ').contains(word); }
-    static QString Name(int cell) { return QString("img%1_%2").arg(cell / 5 + 1).arg(cell % 5 + 1); }
+    void Start() override {
+        highScores_ = ScoreTable(5);
+        LoadHighScores();
+        StartNewGame();
+    }
+
+    void Press(const QString& step) override {
+        const bool isFocusMeant = step == "Space" || step == "Return" || step == "Enter";
+        if (IsDialogOpen()) {
+            PressInDialog(isFocusMeant ? dialogs[dialog_].buttons[button_] : step);
+        } else {
+            PressInWindow(isFocusMeant ? FocusedControl() : step);
+        }
+    }
+
+    void PressInWindow(const QString& step) {
+        const QMap<QString, QString> entries{{"Image1", "mnuGameRoll"},    {"Ctrl+R", "mnuGameRoll"},
+                                             {"imgNewGame", "mnuNewGame"}, {"Ctrl+N", "mnuNewGame"},
+                                             {"Ctrl+Q", "mnuGameExit"},    {"F1", "mnuHelpHow"}};
+        const QString control = entries.value(step, step);
+        if (control == "mnuGameRoll" && CanRoll()) {
+            Roll();
+        } else if (step == "Ctrl+R" && IsFull()) {
+            said_ = "The game is over.";
+        } else if (step == "Ctrl+R" && isRevealed_) {
+            said_ = QString("%1 to place.").arg(pending_);
+        } else if (control == "mnuNewGame" && IsFull()) {
+            StartNewGame();
+        } else if (dialogs.contains(control)) {
+            Open(control);
+        } else if (control == "close") {
+            hasEnded_ = true;
+        } else if (control.startsWith("img")) {
+            Place(5 * control[3].digitValue() + control[5].digitValue() - 6);
+        } else {
+            MoveFocus(control);
+        }
+    }
+
+    bool IsDialogOpen() const override { return !dialog_.isEmpty(); }
+
+    void Open(const QString& entry) {
+        dialog_ = entry;
+        button_ = 0;
+        if (entry == "mnuGameHigh") {
+            LoadHighScores();
+            spokenTitle_ = reports_.isEmpty() ? "" : std::exchange(reports_, "") + " High Scores";
+        }
+        PerformDialog();
+    }
+
+    void PressInDialog(const QString& step) {
+        const auto& [title, buttons, escapePresses, texts] = dialogs[dialog_];
+        if (QStringList{"Tab", "Shift+Tab", "Left", "Right", "Up", "Down"}.contains(step)) {
+            button_ = (button_ + 1) % int(buttons.size()); // of one or two
+        } else if (step == "Escape" && !escapePresses.isEmpty()) {
+            CloseDialog(escapePresses);
+        } else if (step == "close" || buttons.contains(step)) {
+            CloseDialog(step);
+        }
+    }
+
+    void CloseDialog(const QString& button) {
+        const QString entry = std::exchange(dialog_, "");
+        spokenTitle_.clear();
+        if (button == "ResetScores") {
+            Save(ScoreTable(5)); // the window's own table stays
+            Report("The scores are reset.");
+            Announce();
+        } else if (button == "Yes" && entry == "mnuNewGame") {
+            StartNewGame();
+        } else if (button == "Yes") {
+            hasEnded_ = true;
+        }
+    }
+
+    QString FocusedControl() const { return focus_ == "grid" ? Name(current_) : focus_; }
+
+    void MoveFocus(const QString& key) {
+        const QStringList stops =
+            CanRoll() ? QStringList{"grid", "Image1", "imgNewGame"} : QStringList{"grid", "imgNewGame"};
+        const auto stop = stops.size() + stops.indexOf(focus_);
+        const int row = current_ / 5 * 5;
+        const int column = current_ % 5;
+        const QMap<QString, int> targets{{"Left", row + (column + 4) % 5},
+                                         {"Right", row + (column + 1) % 5},
+                                         {"Up", (current_ + 20) % 25},
+                                         {"Home", row},
+                                         {"End", row + 4},
+                                         {"Down", (current_ + 5) % 25}};
+        if (key == "Tab" || key == "Shift+Tab") {
+            focus_ = stops[(key == "Tab" ? stop + 1 : stop - 1) % stops.size()];
+        } else if (targets.contains(key)) {
+            // From a button the first key only enters the grid.
+            current_ = focus_ == "grid" ? targets[key] : current_;
+            focus_ = "grid";
+            ++moves_;
+        }
+    }
+
+    // The game.
 
     bool IsFull() const { return !board_.contains(0); }
     bool CanRoll() const { return pending_ == 0 && !IsFull(); }
-    QString Focused() const { return focus_ == "grid" ? Name(current_) : focus_; }
 
-    void Move(const QString& key) {
-        const int row = current_ / 5 * 5, up = (current_ + 20) % 25, down = (current_ + 5) % 25;
-        const QList<int> targets{row + (current_ + 4) % 5, row + (current_ + 1) % 5, up, up, down, row, row + 4};
-        const auto target = QString("Left Right Up Num+Up Down Home End").split(' ').indexOf(key);
-        const QStringList stops = QString(CanRoll() ? "grid Image1 imgNewGame" : "grid imgNewGame").split(' ');
-        if (IsOneOf(key, "Tab Shift+Tab")) {
-            focus_ = stops[(stops.indexOf(focus_) + (key == "Tab" ? 1 : stops.size() - 1)) % stops.size()];
-        } else if (target >= 0 && std::exchange(focus_, "grid") == "grid") {
-            current_ = targets[target];
-        }
-    }
-
-    void Show(const QString& entry) {
-        open_ = entry;
-        button_ = 0;
-        if (entry == "mnuGameHigh") {
-            title_ = news_.isEmpty() ? "" : std::exchange(news_, {}) + "High Scores";
-            Load();
-        }
-        InDialog();
-    }
-
-    void Answer(const QString& word) {
-        const QStringList buttons = dialogs[open_].sliced(1);
-        const bool isEscape = word == "Escape" && !IsOneOf(open_, "mnuGameHigh mnuHelpHow");
-        if (IsOneOf(word, "Tab Shift+Tab Left Right Up Down")) {
-            button_ = (button_ + 1) % int(buttons.size());
-        } else if (isEscape || word == "close" || buttons.contains(word)) {
-            const QString entry = std::exchange(open_, QString());
-            if (word == "CancelButton") {
-                store_ = StoreOf(Table(5));
-                Announce("The scores are reset.");
-            } else if (word == "Yes" && entry == "mnuNewGame") {
-                NewGame();
-            } else if (word == "Yes") {
-                hasEnded_ = true;
-            }
-        }
-    }
-
-    void NewGame() {
+    void StartNewGame() {
         board_ = Sums(25);
         current_ = 0;
-        Clear();
-        Announce("New game.");
+        EndTurn();
+        Report("New game.");
+        Announce();
     }
 
-    // Everything that is new since the last time.
-    void Announce(const QString& last) { said_ = std::exchange(news_, {}) + last; }
-
-    // No roll is pending: what both a new game and a placement do.
-    void Clear() {
+    void EndTurn() {
         pending_ = 0;
         sum_.clear();
         isDieShown_ = {false, false};
@@ -155,169 +140,175 @@ private:
         while (board_[current_] > 0) {
             current_ = (current_ + 1) % 25;
         }
-        seed_ = ReadClock().time().second();
-        faces_ = dice_;
+        seed_ = clock_.time().second();
+        shownDice_ = dice_;
         pending_ = dice_[0] + dice_[1];
         isRevealed_ = false;
-        news_ += QString("%1 and %2: %3. ").arg(dice_[0]).arg(dice_[1]).arg(pending_);
-        const bool pauses = underWay_ < 64;
-        ++underWay_;
+        Report(QString("%1 and %2: %3.").arg(dice_[0]).arg(dice_[1]).arg(pending_));
         for (const int die : {0, 1}) {
             isDieShown_[die] = true;
-            passes_ = pauses ? die * pause + 1 : 0;
-            InPause(pauses ? die + 1 : 0);
+            passes_ = die * passesOfAPause + 1;
+            PerformPause(die + 1);
         }
-        --underWay_;
-        passes_ = pauses ? 2 * pause : 0;
+        passes_ = 2 * passesOfAPause;
         sum_ = QString("= %1").arg(pending_);
-        prompt_ = "Select A Location for the Roll on the Grid";
         isRevealed_ = true;
-        Announce(news_.isEmpty() ? said_ : "");
+        prompt_ = "Select A Location for the Roll on the Grid";
+        Announce();
     }
 
-    void Put(int cell) {
-        if (pending_ > 0 && board_[cell] == 0) {
-            board_[cell] = std::int16_t(pending_);
+    void Place(int cell) {
+        if (board_[cell] > 0) {
+            said_ = "This cell is filled.";
+        } else if (pending_ == 0) {
+            said_ = "There is no roll to place.";
+        } else {
+            board_[cell] = pending_;
             current_ = cell;
-            news_ += QString("%1 in row %2, column %3. ").arg(pending_).arg(cell / 5 + 1).arg(cell % 5 + 1);
-            Clear();
-            const QString lines = Spoken(cell / 5) + Spoken(5 + cell % 5), over = IsFull() ? prompt_ + ' ' : "";
-            news_ += lines + over + (lines.isEmpty() ? "" : QString("Total: %1 points. ").arg(Total()));
+            Report(QString("%1 in row %2, column %3.").arg(pending_).arg(cell / 5 + 1).arg(cell % 5 + 1));
+            EndTurn();
+            const QString finished = Spoken(cell / 5) + Spoken(5 + cell % 5);
+            if (!finished.isEmpty()) {
+                Report(finished + (IsFull() ? "Game Over! " : "") + QString("Total: %1 points.").arg(Total()));
+            }
             if (IsFull()) {
-                Record();
+                EndRound();
                 focus_ = "imgNewGame";
             }
-            Announce(news_.isEmpty() ? said_ : "");
-        } else {
-            said_ = board_[cell] > 0 ? "This cell is filled." : "There is no roll to place.";
+            Announce();
         }
     }
 
-    // What a complete line is worth.
-    QString Spoken(int line) const {
-        const QString name = QString(line < 5 ? "Row %1" : "Column %1").arg(line % 5 + 1);
-        return Score(line).replace(QRegularExpression("^(\\d+) (.+)"), name + ": \\1 points, \\2. ");
-    }
-
-    void Record() {
-        const bool isEntered = Total() > table_.last().first;
-        if (isEntered) {
-            QString text;
-            for (const char* field : {"yyyy/", "M/", "d ", "H:", "mm"}) {
-                text += ReadClock().toString(field);
-            }
-            table_.last() = {Total(), text};
-            std::ranges::stable_sort(table_, std::greater(), &Table::value_type::first);
-            const auto isAbove = [this](const auto& entry) { return entry.first >= Total(); };
-            news_ += QString("Rank %1. ").arg(std::ranges::count_if(table_, isAbove));
-        } else {
-            news_ += "Not among the five best. ";
-        }
-        store_ = StoreOf(table_);
-        if (isEntered) {
-            Show("mnuGameHigh");
-        }
-    }
-
-    QString Stored(const QString& key) const { return store_.section(key + '=', 1).section('\n', 0, 0); }
-
-    void Load() {
-        for (int at = 0; at < 5; ++at) {
-            const int score = Stored(QString("Score%1").arg(at + 1)).toInt();
-            table_[at] = {score > 32'767 ? table_[at].first : score, Stored(QString("User%1").arg(at + 1))};
-        }
-    }
-
-    // No hand at all while one of the line's cells is empty.
-    QString Score(int line) const {
+    // No name while one of its cells is empty.
+    Worth WorthOfLine(int line) const {
         Sums sums;
         for (int step = 0; step < 5; ++step) {
             sums << board_[line < 5 ? 5 * line + step : 5 * step + line - 5];
         }
-        return sums.contains(0) ? QString() : WorthOf(sums);
+        return sums.contains(0) ? Worth() : WorthOf(sums);
     }
 
     int Total() const {
         int total = 0;
         for (int line = 0; line < 10; ++line) {
-            total += Score(line).section(' ', 0, 0).toInt();
+            total += WorthOfLine(line).points;
         }
         return total;
     }
 
-    // Places are told in twips, fifteen to the pixel; lines are drawn on whole pixels.
-    double Across() const { return (outer_.width() * 15 - 240) / 6.0; }
-    double Bar() const { return outer_.height() * 15 - 2500; }
-    double Left(int column) const { return 240 + column * (Across() - 160); }
-    double Top(int row) const { return 360 + row * (Bar() / 6 - 80); }
-    static double Whole(double twips) { return qRound(twips / 15) * 15.0; }
-    static QString At(const QRectF& twips, const QString& name, const QString& state) {
-        return (name + ' ' + Place(twips, 15) + ' ' + state).trimmed();
+    // The high scores.
+
+    void Save(const ScoreTable& table) override {
+        saved_ = table;
+        store_ = StoreContent(table);
     }
 
-    QStringList SeeGrid() const {
-        QStringList seen;
-        for (int cell = 0; cell < 25; ++cell) {
-            const QString value = board_[cell] > 0 ? QString::number(board_[cell]) : "empty";
-            const QString spoken = QString("%1 Row %2, column %3: ").arg(qMax<int>(1, board_[cell])).arg(cell / 5 + 1);
-            seen << At({Left(cell % 5), Top(cell / 5), 750, 750}, Name(cell), spoken.arg(cell % 5 + 1) + value);
-        }
-        const double right = Left(4), lowest = Top(4);
+    void LoadHighScores() {
         for (int at = 0; at < 5; ++at) {
-            const double x = at == 0 ? 585 : Left(at) + 375, y = at == 0 ? 720 : Top(at) + 375;
-            const double from = at == 0 ? 480 : 600, drop = QList<double>{240, 160, 80, 0, -60}[at];
-            seen += SeeLine(at, QString("_row%1").arg(at + 1),
-                            {{5 * Across() - 260, 360 + at * Bar() / 6 + drop, 495, 255},
-                             {right + 600, Top(at), 480, 720},
-                             {from, Whole(y) - 60, Whole(right) - from, 120}});
-            seen += SeeLine(5 + at, QString("_col%1").arg(at + 1),
-                            {{Left(at), 5 * Bar() / 6 + 435, 735, 255},
-                             {at == 0 ? 240 : x - 360, lowest + 600, 720, 600},
-                             {Whole(x) - 60, 720, 120, Whole(lowest) - 720}});
+            const bool isPossible = saved_[at].points <= 32'767;
+            highScores_[at] = {isPossible ? saved_[at].points : highScores_[at].points, saved_[at].text};
+        }
+    }
+
+    void EndRound() {
+        const auto isAsGood = [this](const Score& score) { return score.points >= Total(); };
+        const auto better = std::ranges::count_if(highScores_, isAsGood);
+        Report(better < 5 ? QString("Rank %1.").arg(better + 1) : "Not among the five best.");
+        highScores_.insert(better, {Total(), clock_.toString("yyyy/M/d H:mm")});
+        highScores_.removeLast();
+        Save(highScores_);
+        if (better < 5) {
+            Open("mnuGameHigh");
+        }
+    }
+
+    // What is heard.
+
+    void Report(const QString& news) { reports_ += (reports_.isEmpty() ? "" : " ") + news; }
+
+    void Announce() {
+        if (!reports_.isEmpty()) {
+            said_ = std::exchange(reports_, "");
+            moves_ = 0;
+        }
+    }
+
+    // "Row 2: 15 points, Two Pair. ", or nothing while one of its cells is empty.
+    QString Spoken(int line) const {
+        const QString name = QString(line < 5 ? "Row %1" : "Column %1").arg(line % 5 + 1);
+        const auto [points, hand, counts] = WorthOfLine(line);
+        return hand ? QString("%1: %2 points, %3. ").arg(name).arg(points).arg(hand) : "";
+    }
+
+    // What is seen.
+
+    static QString Name(int cell) { return QString("img%1_%2").arg(cell / 5 + 1).arg(cell % 5 + 1); }
+
+    QStringList See() override {
+        QStringList seen{"prompt: " + prompt_, "said: " + std::exchange(said_, ""), "focus: " + FocusedControl(),
+                         "store: " + store_, CanRoll() ? "mnuGameRoll: enabled" : "mnuGameRoll: disabled"};
+        seen += SeeStrip() + SeeDialog();
+        for (int cell = 0; cell < 25; ++cell) {
+            const QString sum = board_[cell] > 0 ? QString::number(board_[cell]) : "empty";
+            const QString spoken = QString("Row %1, column %2: %3").arg(cell / 5 + 1).arg(cell % 5 + 1).arg(sum);
+            const bool hasHint = cell == current_ && pending_ > 0 && isRevealed_ && moves_ == 1;
+            const QString hint = hasHint ? QString("%1 to place").arg(pending_) : "";
+            seen << Seen(Name(cell), {QString("cell%1.png").arg(qMax(1, board_[cell])), "", spoken, hint});
+        }
+        for (int line = 0; line < 10; ++line) {
+            const auto [points, hand, counts] = WorthOfLine(line);
+            const QString name = QString(line < 5 ? "_row%1" : "_col%1").arg(line % 5 + 1);
+            if (hand) {
+                seen << Seen("lbl" + name, {QString::number(points), "#ffffff centred bold", Spoken(line).chopped(2)});
+                seen << Seen("img" + name, {line < 5 ? "arrow-right.ico" : "arrow-down.ico"}) << Seen("lin" + name, {});
+            }
         }
         return seen;
-    }
-
-    QStringList SeeLine(int line, const QString& name, const QList<QRectF>& places) const {
-        const QString points = Score(line).section(' ', 0, 0);
-        const QStringList seen{At(places[0], "lbl" + name, points + ' ' + Spoken(line).section('.', 0, 0)),
-                               At(places[1], "img" + name, "1"), At(places[2], "lin" + name, "")};
-        return points.isEmpty() ? QStringList() : seen;
     }
 
     QStringList SeeStrip() const {
-        const QString spokenSum = sum_.isEmpty() || sum_ == "= 0" ? " No roll" : " Sum of the roll: " + sum_.sliced(2);
-        const QString total = QString("%1 Total: %1 points").arg(Total());
-        QStringList seen(CanRoll() ? 1 : 0, At({0, Bar() + 100, 2955, 1125}, "Image1", "1 Roll Dice"));
-        seen += {At({2040, Bar() + 200, 1305, 825}, "lblRolled", sum_ + spokenSum),
-                 At({5 * Across() - 260, 5 * Bar() / 6 + 360, 1095, 495}, "lblTotal", total),
-                 At({0, Whole(Bar()) - 30, outer_.width() * 15.0, 60}, "Line1", ""),
-                 At({qMax(Left(4) - 2205, 3055.0), Bar() + 100, 2955, 1125}, "imgNewGame", "1 New Game")};
-        const auto nth = [](int die) { return QStringList{"First", "Second"}[die]; };
-        for (const int die : {0, 1}) {
-            seen << At({240.0 + 840 * die, Bar() + 200, 750, 750}, QString("imgRolled%1").arg(die + 1),
-                       QString("%1 %2 die: %1").arg(faces_[die]).arg(nth(die)));
-            seen.resize(isDieShown_[die] ? seen.size() : seen.size() - 1);
+        const QString total = QString::number(Total());
+        const QString spokenSum = sum_.isEmpty() || sum_ == "= 0" ? "No roll" : "Sum of the roll: " + sum_.sliced(2);
+        const QString first = QString::number(shownDice_[0]), second = QString::number(shownDice_[1]);
+        return {Seen("Line1", {}),
+                Seen("imgNewGame", {"newgame.png", "", "New Game"}),
+                Seen("lblRolled", {sum_, "#ffffff left bold on #008000", spokenSum}),
+                Seen("lblTotal", {total, "#ffffff centred bold", "Total: " + total + " points"}),
+                CanRoll() ? Seen("Image1", {"roll.png", "", "Roll Dice"}) : "",
+                isDieShown_[0] ? Seen("imgRolled1", {"die" + first + ".jpg", "", "First die: " + first}) : "",
+                isDieShown_[1] ? Seen("imgRolled2", {"die" + second + ".jpg", "", "Second die: " + second}) : ""};
+    }
+
+    QStringList SeeDialog() const {
+        if (!IsDialogOpen()) {
+            return {};
+        }
+        const Dialog& dialog = dialogs[dialog_];
+        QStringList seen = dialog.texts.split('\n', Qt::SkipEmptyParts);
+        seen << Seen("dialog", {dialog.title, dialog.buttons[button_], spokenTitle_});
+        for (int at = 0; at < 5 && dialog_ == "mnuGameHigh"; ++at) {
+            const auto& [points, text] = highScores_[at];
+            const QString spoken = QString("Rank %1: %2 points").arg(at + 1).arg(points) + (text.isEmpty() ? "" : ", ");
+            seen << Seen(QString("lblHighScore(%1)").arg(at), {QString("%1  ").arg(points) + text, spoken + text});
         }
         return seen;
     }
 
-    static constexpr QSize floor{418, 541};
-
-    // What a menu entry opens, and the buttons in it.
-    static inline const QMap<QString, QStringList> dialogs{
-        {"mnuNewGame", {"Are you sure you want to quit this game and start a new one?|", "Yes", "No"}},
-        {"mnuGameExit", {"Are you sure you want to quit?|", "Yes", "No"}},
-        {"mnuGameHigh", {"frmHighScores", "OKButton", "CancelButton"}},
-        {"mnuHelpHow", {"frmHelp", "OKButton"}},
-        {"mnuHelpAbout", {"frmAbout", "cmdOK"}}};
-
+    // The game.
     Sums board_;
-    QList<int> faces_;
+    int pending_ = 0;
+    bool isRevealed_ = false; // the pending roll
     QList<bool> isDieShown_;
-    int pending_ = 0, current_ = 0, button_ = 0, underWay_ = 0;
-    QString said_, news_, title_, prompt_, sum_, open_, focus_, store_;
-    QSize outer_;
-    bool isRevealed_ = false;
-    Table table_;
+    QList<int> shownDice_{1, 1};
+    QString sum_, prompt_;
+
+    // The keyboard: the focus is in the "grid", or on "Image1" or "imgNewGame".
+    QString focus_;
+    int current_ = 0, moves_ = 0; // the cell that has the focus or gets it; how often it moved since an announcement
+
+    QString reports_, said_; // to be announced; what was announced since the last look
+    ScoreTable highScores_, saved_ = ScoreTable(5);
+    QString store_;                // the content of the file
+    QString dialog_, spokenTitle_; // the menu entry of the open dialog; what a screen reader says for its title
+    int button_ = 0;               // that has the focus
 };

@@ -27,6 +27,9 @@ public:
     // The shown picture's index in its list; 0 before any is set.
     std::int16_t Index() const { return index_; }
 
+    // The name of the picture's file; empty if no picture has been set.
+    QString FileName() const { return list_ == nullptr ? QString() : list_->FileName(index_); }
+
 protected:
     // The picture as it comes to the screen, one pixel for each of the screen's.
     QPixmap Face() const;

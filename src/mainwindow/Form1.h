@@ -31,16 +31,8 @@ class QAction;
 // subsystem. A roll lets events run while it pauses, so any handler can run in the middle of RollDice.
 class Form1 final : public QMainWindow {
 public:
-    // The window loads the scores and starts a game when it is first shown.
+    // The window loads the high scores and starts a game when it is first shown.
     explicit Form1(Platform platform);
-
-    RollValue PendingRoll() const { return pendingRoll_; }
-    const Board& GameBoard() const { return board_; }
-    const HighScoreTable& HighScores() const { return highScores_; }
-
-    // Offers the pending roll to an empty cell, which `cell` shows; changes nothing, and tells a screen reader why,
-    // when the cell is filled or no roll is pending. Throws SubscriptError unless row and column lie in 1..5.
-    void PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column);
 
 protected:
     bool event(QEvent* event) override;
@@ -70,6 +62,9 @@ private:
     void StartNewGame();
     void RollDice();
     void Pause();
+    // Places the pending roll in the cell, if it is empty. Otherwise, or if no roll is pending, only a screen reader
+    // says so. Throws SubscriptError unless row and column lie in 1..5.
+    void PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column);
     void Image1_Click();
     void imgNewGame_Click();
     void mnuGameRoll_Click();

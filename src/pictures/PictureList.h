@@ -28,8 +28,7 @@ public:
 
     std::int16_t Count() const { return static_cast<std::int16_t>(entries_.size()); }
 
-    // The picture as the list holds it.
-    const QImage& Image(std::int16_t index) const;
+    const QString& FileName(std::int16_t index) const { return At(index).fileName; }
 
     // The picture drawn in exactly `size` device pixels, as sharp as can be.
     QPixmap Rendering(std::int16_t index, const QSize& size) const;
@@ -42,6 +41,7 @@ private:
         mutable QHash<QSize, QPixmap> renderings;
     };
 
+    const QImage& Image(std::int16_t index) const; // in its own size
     void Add(const QString& name, const QString& suffix);
     const Entry& At(std::int16_t index) const;
 

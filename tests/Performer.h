@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 the Kelvaro developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QtCore>
+
+struct Score {
+    int points = 0;
+    QString text;
+};
+
+using ScoreTable = QList<Score>; // five, the best first
+
+// The content of the file that holds a table.
+inline QString StoreContent(const ScoreTable& table) {
+    QString scores, texts;
+    for (int rank = 1; rank <= table.size(); ++rank) {
+        scores += QString("Score%1=%2\n").arg(rank).arg(table[rank - 1].points);
+        texts += QString("User%1=%2\n").arg(rank).arg(table[rank - 1].text);
+    }
+    return "[HighScores]\n" + scores + texts;
+}
+
+// One line of what is seen: a control, what it shows, its look, and its name and hint for a screen reader.
+inline QString Seen(const QString& control, QStringList details) {
+    details.removeAll("");
+    return control + ": " + details.join(" | ");
+}
+
+// Performs a script step by step, and notes what is seen and heard before each step and at the end. The player does it
+// with the real window; the model works out what must be seen.
+//
+// A step is one of these:
+//   img2_4          a click on a control, on a menu entry (mnuNewGame) or on a button of a dialog (Yes)
+//   Ctrl+R          a key
+//   close           the close box of the window or dialog
+//   3+4             says what the next dice are
+//   again           the program starts again
+//   copy:120        another copy of the game saves a table from 120 points down
+//   1:img2_4        any of these during the first pause of the preceding roll; with 2: during the second
+//
+// While a dialog is open, clicks and keys go to it. One that is open at the end of the script is closed.
+class Performer {
+public:
+    virtual ~Performer() = default;
+
+    QStringList Perform(const QString& script) {
+        steps_ = script.split(' ', Qt::SkipEmptyParts);
+        while (!steps_.isEmpty()) {
+            PerformNext();
+        }
+        Note("At the end");
+        return notes_;
+    }
+
+protected:
+    static constexpr int passesOfAPause = 250'000;
+
+    virtual void Start() = 0;
+    virtual void Save(const ScoreTable& table) = 0;
+    virtual void Press(const QString& step) = 0; // a click or a key
+    virtual bool IsDialogOpen() const = 0;
+    virtual QStringList See() = 0;
+
+    void PerformPause(int number) {
+        while (!steps_.isEmpty() && steps_.first().startsWith(QString("%1:").arg(number))) {
+            PerformNext();
+        }
+    }
+
+    void PerformDialog() {
+        while (IsDialogOpen()) {
+            steps_ += steps_.isEmpty() ? QStringList("close") : QStringList();
+            PerformNext();
+        }
+    }
+
+    // The machine that the game runs on.
+    QDateTime clock_{{2026, 12, 31}, {20, 58, 59}};
+    QList<int> dice_{1, 1}; // of the next roll
+    int seed_ = -1;         // the last roll's
+    int passes_ = 0;        // of the event loop, in the last roll's pauses
+    bool hasEnded_ = false; // whether the program has
+
+private:
+    void PerformNext() {
+        QString step = steps_.takeFirst();
+        Note("Before " + step);
+        step.remove(QRegularExpression("^[12]:"));
+        clock_ = clock_.addSecs(54'321); // some fifteen hours
+        if (step.startsWith("copy:")) {
+            const int best = step.sliced(5).toInt();
+            Save({{best, "a"}, {best - 1, "b"}, {best - 2, "c"}, {best - 3, "d"}, {best - 4, ""}});
+        } else if (step[0].isDigit()) {
+            dice_ = {step[0].digitValue(), step[2].digitValue()};
+        } else if (step == "again" && !IsDialogOpen()) {
+            hasEnded_ = false;
+            Start();
+        } else if (!hasEnded_) {
+            Press(step);
+        }
+    }
+
+    void Note(const QString& when) {
+        QStringList seen = See() << QString("roll: seed %1, %2 passes").arg(seed_).arg(passes_);
+        seen << QString("program: %1").arg(hasEnded_ ? "has ended" : "runs");
+        seen.removeAll("");
+        seen.sort();
+        for (const QString& line : seen) {
+            notes_ << QString("%1, %2 more to go, %3").arg(when).arg(steps_.size()).arg(line);
+        }
+    }
+
+    QStringList steps_, notes_;
+};
