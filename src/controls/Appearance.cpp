@@ -14,11 +14,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString LabelFamily() {
-    // These share their widths and heights; whatever else a system falls back to is wider or taller. The first of them
-    // is the design's MS Sans Serif at every size: the family of that name is of a few fixed sizes.
+    // These families have the same widths and heights; others are wider or taller. Microsoft Sans Serif is the scalable
+    // form of MS Sans Serif, which has bitmaps of a few sizes only.
     static const QStringList preferred{u"Microsoft Sans Serif"_s, u"Arial"_s, u"Liberation Sans"_s, u"Arimo"_s,
                                        u"MS Sans Serif"_s};
-    // One look at the list: asking for a family by name resolves aliases, a millisecond each.
+    // The list is read once, because asking for a family by name resolves aliases, which takes a millisecond each.
     const QStringList installed = QFontDatabase::families();
     const auto found =
         std::ranges::find_if(preferred, [&](const QString& family) { return installed.contains(family); });

@@ -6,7 +6,7 @@
 #include <QColor>
 #include <QFont>
 
-// The colours of the game; the desktop's theme does not change them.
+// The game's own colours, whatever the desktop's theme.
 namespace Colours {
 inline constexpr QColor table{0, 128, 0};
 inline constexpr QColor white{255, 255, 255};
@@ -16,8 +16,8 @@ inline constexpr QColor heading{224, 224, 224};
 inline constexpr QColor chart{255, 255, 192};
 } // namespace Colours
 
-// The game's type sizes in pixels at 96 dots per inch, so that text keeps its proportion to the geometry
-// whatever the desktop's font resolution is.
+// Font sizes in pixels at 96 dots per inch. Sizes in points would depend on the desktop's font resolution, and text
+// would lose its proportion to the controls.
 enum class TypeSize {
     Text = 11,    // 8.25 pt
     Chart = 13,   // 9.75 pt
@@ -25,5 +25,6 @@ enum class TypeSize {
     Numeral = 32, // 24 pt
 };
 
-// A font of the family that the labels are measured for, or of the nearest to it that is installed.
+// A font of the first installed family that has the widths the labels are designed for, or else of the desktop's
+// family.
 QFont LabelFont(TypeSize size, QFont::Weight weight);

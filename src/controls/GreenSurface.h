@@ -8,8 +8,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-// A widget painted with the table's green. Its palette stays the theme's, so that push buttons on it look as
-// they do everywhere else.
+// A widget painted in the table's green. Its palette stays that of the theme, so push buttons on it look as usual.
 template <typename Base> class GreenSurface : public Base {
 public:
     using Base::Base;

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int smallestPixelSize = 6;
 
-// More text than this fits nowhere, so no more is measured.
+// No label holds more text than this, so no more is measured.
 constexpr int mostCharacters = 1000;
 
 } // namespace
@@ -89,12 +89,12 @@ void Label::FitText() {
 
 bool Label::Fits(const QFont& font) const {
     const QSize room = room_.isValid() ? room_ : size();
-    // A label less than two lines high is meant for one.
+    // A label that is lower than two lines holds one.
     const int wrapping = 2 * QFontMetrics(font_).lineSpacing() <= room.height() ? Qt::TextWordWrap : 0;
     const QFontMetrics metrics(font);
     const QString measured = text().left(mostCharacters);
     const QRect needed = metrics.boundingRect(0, 0, width(), room.height(), wrapping, measured);
-    // Below the last line's baseline only what is drawn counts: numerals need no room there.
+    // Below the last baseline only ink counts: numerals have none there.
     const int drawnDescent = qMax(0, metrics.tightBoundingRect(measured).bottom() + 1);
     const int height = needed.height() - metrics.descent() + qMin(drawnDescent, metrics.descent());
     return needed.width() <= room.width() && height <= room.height();

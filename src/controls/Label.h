@@ -5,8 +5,8 @@
 
 #include <QLabel>
 
-// A label for plain text, wrapped within its width from the top down. Text that does not fit is made smaller
-// until it does. Clicks go through it.
+// A label for plain text, which is wrapped to its width and starts at its top. Text that does not fit is made smaller.
+// Clicks go through it.
 class Label final : public QLabel {
 public:
     Label(QWidget* parent, const QFont& font, const QColor& colour, Qt::AlignmentFlag alignment);
@@ -16,17 +16,17 @@ public:
 
     void SetCaption(const QString& caption);
 
-    // Fills the label with `colour`, which is transparent otherwise.
+    // Fills the label with `colour`. Without this it is transparent.
     void SetBackground(const QColor& colour);
 
-    // Bounds the text more closely than the label does: what lies beyond is covered by another control.
+    // Limits the text to a part of the label, because another control covers the rest.
     void SetRoom(const QSize& room);
 
-    // Puts the middle of numerals and capitals at `middle` pixels below the label's top, at whatever size they fit.
-    // Call before the label is shown.
+    // Puts the middle of numerals and capitals `middle` pixels below the label's top, whatever their size. Call it
+    // before the label is shown.
     void SetMiddle(qreal middle) { middle_ = middle; }
 
-    // Keeps the text at or below a size in pixels; its font's own size at first.
+    // Limits the size of the text, in pixels. Without this the limit is the size of the font.
     void SetLargestSize(int pixelSize);
 
 protected:
@@ -34,12 +34,12 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void FitShownText(); // a hidden label need not load its font
+    void FitShownText(); // nothing if the label is hidden: its font need not be loaded
     void FitText();
     bool Fits(const QFont& font) const;
 
     QFont font_;
     QSize room_;
-    qreal middle_ = 0; // of no meaning at 0
+    qreal middle_ = 0; // 0 if the text starts at the top
     int largestSize_;
 };

@@ -10,7 +10,7 @@
 // A straight line, horizontal or vertical, between two points in twips. Clicks go through it.
 class LineShape final : public QWidget {
 public:
-    // `thickness` is in pixels. Without a colour it is the theme's for text.
+    // `thickness` is in pixels. Without a colour, the line has the theme's text colour.
     LineShape(QWidget* parent, const QLineF& ends, int thickness, const QColor& colour = {});
 
     void SetEnds(const QLineF& ends);

@@ -34,9 +34,9 @@ QPixmap PictureFace::Face() const {
                : list_->Rendering(index_, (QSizeF(control_->size()) * control_->devicePixelRatioF()).toSize());
 }
 
-void PictureFace::CountPixels(QPainter& painter) const {
-    // At a fractional ratio a control's corner falls between device pixels. The picture starts at the nearest one and
-    // is rendered in whole pixels, so that nothing is interpolated on the way to the screen.
+void PictureFace::UseDevicePixels(QPainter& painter) const {
+    // At a fractional ratio the corner of a control lies between device pixels. The picture starts at the nearest one,
+    // so that it is not interpolated.
     const qreal ratio = control_->devicePixelRatioF();
     const QPointF corner = control_->mapTo(control_->window(), QPoint());
     painter.translate(QPointF((corner * ratio).toPoint()) / ratio - corner);
@@ -49,7 +49,7 @@ Picture::Picture(QWidget* parent) : QWidget(parent), PictureFace(this) {
 
 void Picture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    CountPixels(painter);
+    UseDevicePixels(painter);
     painter.drawPixmap(0, 0, Face());
 }
 
@@ -69,7 +69,7 @@ void PictureButton::ShowFocus(bool isShown) {
 }
 
 bool PictureButton::event(QEvent* event) {
-    // A shortcut is asked for as an override first and never arrives as a key.
+    // A shortcut arrives as an override only, not as a key press.
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
         if (!IsModifier(static_cast<QKeyEvent*>(event)->key())) {
             ShowFocus(true);
@@ -93,7 +93,7 @@ void PictureButton::mousePressEvent(QMouseEvent* event) {
 
 void PictureButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    CountPixels(painter);
+    UseDevicePixels(painter);
     const QPixmap face = Face();
     painter.drawPixmap(0, 0, face);
 

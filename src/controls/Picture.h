@@ -16,29 +16,29 @@
 
 class QPainter;
 
-// Which picture a control shows, and how it is put on the screen: filling the control, on whole device pixels.
+// The picture that a control shows. It fills the control and is rendered in whole device pixels.
 class PictureFace {
 public:
     explicit PictureFace(QWidget* control) : control_(control) {}
 
-    // `list` outlives the control. Throws SubscriptError when it has no such picture.
+    // `list` must exist as long as the control is shown. Throws SubscriptError if it has no such picture.
     void SetPicture(const PictureList& list, std::int16_t index);
 
-    // The shown picture's index in its list; 0 before any is set.
+    // The index of the picture in its list; 0 if none has been set.
     std::int16_t Index() const { return index_; }
 
     // The name of the picture's file; empty if no picture has been set.
     QString FileName() const { return list_ == nullptr ? QString() : list_->FileName(index_); }
 
 protected:
-    // The picture as it comes to the screen, one pixel for each of the screen's.
+    // The picture in the control's size, in device pixels.
     QPixmap Face() const;
 
     // Another picture of the same list, in device pixels.
     QPixmap Rendering(std::int16_t index, const QSize& size) const { return list_->Rendering(index, size); }
 
-    // Has the painter count the screen's pixels from the picture's corner on.
-    void CountPixels(QPainter& painter) const;
+    // Scales the painter to device pixels, with its origin at the picture's corner.
+    void UseDevicePixels(QPainter& painter) const;
 
 private:
     QWidget* control_;
@@ -55,14 +55,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-// A picture to click: with the left button, released inside the picture, or with Space or Enter. It shows when it is
-// the next to be clicked. While a click would do something it lights up under the pointer and, pressed, goes down or
-// darkens. Its focus is drawn from the first key on and no longer when the mouse is used. All that is laid over the
-// picture, on whole pixels of the screen.
+// A picture that is clicked with the left mouse button or pressed with Space or Enter. It is highlighted if it is the
+// next to be clicked. While a click would do something, it lights up under the pointer and changes when pressed; under
+// the pointer or with the focus it may preview what the click does.
 class PictureButton final : public QAbstractButton, public PictureFace {
 public:
-    // What lights up, in pixels: a rounded rectangle that lies `margins` inside the picture, and how far it goes down
-    // when pressed. What does not go down darkens.
+    // The part of the picture that lights up, in pixels: a rounded rectangle inside these margins. When pressed it
+    // moves down by `drop` pixels or, if that is 0, darkens.
     struct HotArea {
         QMarginsF margins;
         qreal radius;
@@ -73,10 +72,12 @@ public:
 
     void SetHotArea(const HotArea& hotArea) { hotArea_ = hotArea; }
 
-    // Tells the button how to find out whether a click would do something; without this it always would.
+    // The button calls these functions whenever it needs their results.
+
+    // Whether a click would do something. Without this it always would.
     void SetWouldAct(std::function<bool()> wouldAct) { wouldAct_ = std::move(wouldAct); }
 
-    // Tells the button how to find out whether it is the next to be clicked; without this it never is.
+    // Whether the button is the next to be clicked. Without this it never is.
     void SetIsNext(std::function<bool()> isNext) { isNext_ = std::move(isNext); }
 
     // The index of the picture that a click would show, or 0. Without this there is no preview.

@@ -6,8 +6,8 @@
 #include <QRectF>
 #include <QWidget>
 
-// Positions and sizes of the main window are in twips, 1/1440 inch: 15 to a pixel at 96 dots per inch. They are
-// computed as exact numbers and rounded once, when a control takes them over.
+// Positions and sizes in the main window are in twips, 1/1440 inch: 15 to a pixel at 96 dots per inch. They are
+// computed as exact numbers and rounded once, when a control is placed.
 inline constexpr double twipsPerPixel = 15.0;
 
 // The nearest whole pixel.

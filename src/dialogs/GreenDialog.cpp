@@ -15,10 +15,10 @@
 
 namespace {
 
-// How far text keeps from a control beside it.
+// The distance in pixels between a text and the control to its right.
 constexpr int gap = 3;
 
-// The part of `place` that no other control begins in, towards the right and downwards.
+// The part of `place`, from its top left corner, that no other control of the dialog covers.
 QSize RoomWithin(const QRect& place, const QWidget& control, const QWidget& dialog) {
     QRect room = place & dialog.rect();
     for (const QObject* child : dialog.children()) {
@@ -36,7 +36,7 @@ QSize RoomWithin(const QRect& place, const QWidget& control, const QWidget& dial
     return room.size();
 }
 
-// Makes the caption smaller until the button holds it: its size is fixed, the desktop's font is not.
+// Makes the caption smaller until it fits: the button has a fixed size, but the desktop chooses the font.
 void FitCaption(QPushButton& button) {
     constexpr QMargins edge(5, 3, 5, 3);
     constexpr int smallest = 6;
@@ -70,8 +70,8 @@ void GreenDialog::ShowModal(const QWidget& window) {
     if (IsDialogOpen()) {
         return;
     }
-    // Before there is a native window, whose client area later moves would place. The dialog's frame is going to be
-    // like the window's.
+    // Moved before the native window exists, because a later move would place the client area, not the frame. The frame
+    // will be like that of the main window.
     const QSize outer = size().grownBy(window.windowHandle()->frameMargins());
     move(ScreenPlace(outer, *window.screen()));
     setWindowIcon(window.windowIcon());
@@ -92,7 +92,7 @@ QPushButton* GreenDialog::AddButton(const QString& name, const QString& caption,
     auto* button = new QPushButton(caption, this);
     button->setObjectName(name);
     button->setGeometry(place);
-    button->setAutoDefault(false); // the dialog would make a default button of it
+    button->setAutoDefault(false); // otherwise the dialog makes it a default button
     FitCaption(*button);
     return button;
 }

@@ -15,19 +15,18 @@
 class Label;
 class QPushButton;
 
-// Whether a dialog or a question is open. What it covers can still be pressed through the accessibility bus, so
-// whatever opens one asks first: they must not pile up.
+// Whether a dialog or a question is open. The window under it can still be operated through the accessibility bus, so
+// this is checked before another one is opened: dialogs must not pile up.
 bool IsDialogOpen();
 
-// What the game's fixed green dialogs share: a client area of a fixed size with controls at fixed places, in
-// pixels at 96 dots per inch, shown modally in the middle of the screen. A dialog is made for each showing
-// and unloaded with it.
+// What the three green dialogs share: a fixed size, controls at fixed places, in pixels at 96 dots per inch, and the
+// centre of the screen. A dialog is created each time it is shown.
 //
-// Escape closes a dialog only through its cancel button, and Enter presses the button that has the focus.
+// Enter presses the button that has the focus. Escape presses the cancel button, if there is one.
 class GreenDialog : public GreenSurface<QDialog> {
 public:
-    // Shows the dialog and returns when it is closed. It stays above `window` but has no owner. Shows nothing while
-    // another dialog is open.
+    // Shows the dialog and returns when it is closed. It stays above `window` but is not owned by it. Does nothing
+    // while another dialog is open.
     void ShowModal(const QWidget& window);
 
 protected:
@@ -45,13 +44,13 @@ protected:
     Label* AddLabel(const LabelDesign& design);
     QPushButton* AddButton(const QString& name, const QString& caption, const QRect& place);
 
-    // Keeps every label's text clear of the controls right of it and below it. Call when all controls are there.
+    // Fits the text of each label into the space between the controls. Call it after all controls have been added.
     void FitLabels();
 
-    // Gives all of `labels` the size of the one that had to be made smallest. Call after FitLabels.
+    // Gives all of `labels` the font size of the smallest. Call it after FitLabels.
     static void FitAlike(const std::vector<Label*>& labels);
 
-    // Makes the button the one that Escape presses.
+    // Escape presses this button.
     void SetCancelButton(QPushButton* button) { cancelButton_ = button; }
 
     void Unload();

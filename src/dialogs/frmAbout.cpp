@@ -20,7 +20,7 @@ frmAbout::frmAbout()
     picture->setAccessibleName(u"A red disc and a die"_s);
     picture->setGeometry(8, 8, 72, 76);
 
-    // White under grey, shifted by a pixel: an etched groove.
+    // A white line under a grey one, one pixel lower, looks like an engraved line.
     auto* light = new LineShape(this, {ToTwips(7), ToTwips(121), ToTwips(312), ToTwips(121)}, 2, Colours::white);
     light->setObjectName(u"Line1(0)"_s);
     auto* dark = new LineShape(this, {ToTwips(6), ToTwips(120), ToTwips(312), ToTwips(120)}, 1, Colours::grey);
@@ -34,7 +34,7 @@ frmAbout::frmAbout()
     addText(u"lblDisclaimer"_s, line, u"Copyright © 2026 the Kelvaro developers"_s)->SetMiddle(line.height() / 2.0);
     AddLabel({u"lblTitle"_s, {88, 8, 259, 32}, Colours::white, TypeSize::Heading, QFont::Normal, u"Kelvaro"_s});
     addText(u"lblVersion"_s, {88, 32, 259, 15}, u"Version "_s + QLatin1String(KELVARO_VERSION))
-        ->setAccessibleName(u"Kelvaro, version "_s + QLatin1String(KELVARO_VERSION)); // a reader skips two words
+        ->setAccessibleName(u"Kelvaro, version "_s + QLatin1String(KELVARO_VERSION)); // Orca skips a text of two words
     addText(u"Label1"_s, {88, 56, 265, 33}, u"Support: the Kelvaro issue tracker"_s);
     FitLabels();
 

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Where the chart's rows stand, the lowest points first. The uneven steps leave room for two lines.
+// The places of the chart's rows, the lowest points first. The uneven steps leave room for two lines.
 constexpr std::array<QRect, 8> chartPlaces{{
     {8, 128, 361, 25},
     {8, 152, 417, 33},

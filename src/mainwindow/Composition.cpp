@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Pixels.
+// In pixels.
 constexpr int strikeThickness = 8;
 constexpr int separatorThickness = 4;
 constexpr int statusBarHeight = 17;

@@ -11,12 +11,12 @@
 
 #include <array>
 
-// Where the main window's controls stand when it is composed, and how large they are, in twips. The layout keeps the
-// sizes and moves most of them.
+// The places and sizes of the main window's controls when it is created, in twips. The layout moves most of them but
+// keeps their sizes.
 namespace Design {
 
-// The first cell and what belongs to row 1 and to column 1; the next cell, row or column is a pitch away. The first
-// cell never moves.
+// The first cell, and the controls of row 1 and column 1. The next row or column is one pitch away. The first cell
+// never moves.
 inline constexpr double pitch = 840;
 inline constexpr QRectF cell{240, 360, 750, 750};
 inline constexpr QRectF rowMarker{4200, 360, 480, 720};
@@ -48,7 +48,7 @@ inline constexpr QRectF sum{2040, 5880, 1305, 825};
 inline constexpr QRectF firstDie{240, 5880, 750, 750};
 inline constexpr QRectF secondDie{1080, 5880, 750, 750};
 
-// What lights up: the inside of a cell's dotted edge, a disc, and the plates of the two picture buttons. In pixels.
+// The parts that light up, in pixels: the inside of a cell's dotted edge, a disc, and the plates of the two buttons.
 inline constexpr PictureButton::HotArea emptyCellArea{{2.9, 2.9, 2.9, 2.9}, 3, 0};
 inline constexpr PictureButton::HotArea discArea{{2, 2, 2, 2}, 23, 0};
 inline constexpr PictureButton::HotArea rollPlate{{18, 6, 14, 17}, 14, 2};

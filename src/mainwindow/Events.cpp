@@ -9,7 +9,7 @@
 #include <QWindow>
 
 bool Form1::event(QEvent* event) {
-    // A menu entry's status tip would overwrite the prompt.
+    // Qt would replace the prompt with the status tip of a menu entry.
     return event->type() == QEvent::StatusTip || QMainWindow::event(event);
 }
 
@@ -23,7 +23,7 @@ void Form1::showEvent(QShowEvent* event) {
 }
 
 bool Form1::eventFilter(QObject* watched, QEvent* event) {
-    // The first frame is settled when the window can be seen.
+    // When the window becomes visible, the window manager has framed it.
     if (watched == windowHandle() && event->type() == QEvent::Expose && windowHandle()->isExposed()) {
         isFrameKnown_ ? UpdateFrame() : StartLayout();
     }

@@ -32,7 +32,7 @@ Form1::Form1(Platform platform)
     setWindowIcon(QPixmap(u":/pictures/kelvaro.png"_s)); // on Windows, the icon of the program is used instead
     Compose();
 
-    // The floor of the window's size is the layout's own.
+    // The minimum size comes from the layout of the game, not from that of Qt.
     layout()->setSizeConstraint(QLayout::SetNoConstraint);
     resize(designClient + QSize(0, menuBar()->sizeHint().height()));
 }

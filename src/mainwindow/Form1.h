@@ -25,10 +25,10 @@ class Picture;
 class PictureButton;
 class QAction;
 
-// The game's main window: it holds all state, and every routine of the game is an operation of it.
+// The game's main window. It holds all state, and every routine of the game is one of its functions.
 //
-// The window is declared here and composed in this folder; each routine is defined in the folder of its
-// subsystem. A roll lets events run while it pauses, so any handler can run in the middle of RollDice.
+// The window is composed in this folder; each routine is defined in the folder of its subsystem. Events are processed
+// while a roll pauses, so any handler can run in the middle of RollDice.
 class Form1 final : public QMainWindow {
 public:
     // The window loads the high scores and starts a game when it is first shown.
@@ -92,17 +92,17 @@ private:
     void ComposeButtonStrip(QWidget* table);
     void ComposeStatusBar();
 
-    // mainwindow/: what the routines ask of the controls
+    // mainwindow/: controls
     PictureButton& Cell(std::int16_t row, std::int16_t column) const;
     RollValue RevealedRoll() const { return isRollRevealed_ ? pendingRoll_ : RollValue{0}; }
-    // What is seen and what is spoken of a cell, as the board has it, and of the sum, as the pending roll is.
+    // Set what is seen and spoken of a cell, and of the sum of the pending roll.
     void ShowCell(PictureButton& cell, std::int16_t row, std::int16_t column);
     void ShowSum(const QString& caption);
-    // Lets the pictures follow a change of what is next and of what a click on them would do.
+    // Repaints the effects that show what is next and what a click would do.
     void RepaintEffects();
 
     // mainwindow/: keyboard. The grid, the roll button and the new-game button are one stop of the Tab key each.
-    void FollowFocus(); // a screen reader moves the focus without a key
+    void FollowFocus(); // makes the focused cell the current one: a screen reader moves the focus without a key
     PictureButton& CurrentCell() const;
     void FocusEmptyCell(); // the current cell, or the next empty one in reading order
 

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The neighbour of 1..5 in a direction, wrapping at the edges.
+// The number in 1..5 that follows in a direction (1 or -1); 1 follows 5.
 std::int16_t Wrapped(std::int16_t number, int direction) {
     return static_cast<std::int16_t>((number - 1 + direction + Board::Side) % Board::Side + 1);
 }
@@ -28,7 +28,7 @@ void Form1::mousePressEvent(QMouseEvent* event) {
 
 void Form1::keyPressEvent(QKeyEvent* event) {
     if ((event->modifiers() & ~Qt::KeypadModifier) != 0) {
-        // Only a disabled entry leaves its shortcut alone.
+        // The shortcut arrives here only while its menu entry is disabled.
         if (mnuGameRoll_->shortcut() == QKeySequence(event->keyCombination())) {
             speech_.RefuseRoll(RevealedRoll(), board_.IsFull());
         }
@@ -60,7 +60,7 @@ void Form1::keyPressEvent(QKeyEvent* event) {
         QMainWindow::keyPressEvent(event);
         return;
     }
-    // From a button the first key only enters the grid.
+    // If a button has the focus, the first key only moves it to the grid.
     if (focusWidget() == &CurrentCell()) {
         currentCell_ = {row, column};
     }
@@ -74,7 +74,7 @@ bool Form1::focusNextPrevChild(bool next) {
     if (!next) {
         std::reverse(stops.begin(), stops.end());
     }
-    // A control that is being hidden gives its focus away too, so only its place in the order counts.
+    // A control also passes its focus on when it is being hidden, so the one that has the focus may be invisible.
     std::rotate(stops.begin(), std::find(stops.begin(), stops.end(), focusWidget()), stops.end());
     const auto target =
         std::find_if(stops.begin() + 1, stops.end(), [](const QWidget* stop) { return stop->isVisible(); });

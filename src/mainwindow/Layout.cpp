@@ -18,22 +18,22 @@ namespace {
 // The smallest outer size, in pixels: 6270 by 8115 twips.
 constexpr QSize smallestOuterSize(418, 541);
 
-// Twips from here on. The window's pitch is a sixth of what the grid spreads over.
+// All lengths from here on are in twips. The pitch of the columns and rows is a sixth of the space for the grid.
 constexpr double pitches = 6;
 constexpr double lastPitch = 5;
 
-// How much closer than the pitch the cells stand, a step.
+// The distance from one cell to the next is this much less than the pitch.
 constexpr double columnTightening = 160;
 constexpr double rowTightening = 80;
 
-// How far the markers overlap the last cell, and where the read-outs stand, seen from the pitch; the rows' are
-// irregular by design.
+// How far the markers overlap the last cell, and the offsets of the read-outs; those of the rows are irregular by
+// design.
 constexpr double markerOverlap = 150;
 constexpr double rowReadOutShift = -500;
 constexpr std::array<double, Board::Side> rowReadOutDrops{240, 160, 80, 0, -60};
 constexpr double columnReadOutDrop = 75;
 
-// How far above the window's lower edge the strip's parts begin.
+// Distances from the window's lower edge to the parts of the button strip.
 constexpr double separatorHeight = 2500;
 constexpr double buttonHeight = 2400;
 constexpr double rollHeight = 2300;
@@ -41,9 +41,10 @@ constexpr double buttonGap = 100;
 
 } // namespace
 
-// The grid as a window of some outer size spreads it.
+// The grid in a window of a given outer size.
 struct Form1::Grid {
-    // The rows' pitch is taken from the separator's full height, unlike the columns'.
+    // The columns share the width to the right of the first cell's left edge. The rows share the whole height above the
+    // separator, although the first cell does not start at the top.
     explicit Grid(const QSizeF& outer)
         : columnPitch((outer.width() - Design::cell.left()) / pitches),
           rowPitch((outer.height() - separatorHeight) / pitches) {}
@@ -95,7 +96,7 @@ void Form1::LayOutRow(const LineControls& row, const Grid& grid) {
     const double drop = rowReadOutDrops.at(static_cast<std::size_t>(number - 1));
     MoveTo(*row.readOut, grid.PitchLeft(lastPitch) + rowReadOutShift, grid.PitchTop(number - 1) + drop);
     MoveTo(*row.marker, grid.Right() - markerOverlap, top);
-    // The first row's height is its own.
+    // In the first row, the strike line keeps its designed vertical position.
     const QLineF design = Design::Strike(row.line);
     const double middle = number == 1 ? design.y1() : top + Design::cell.height() / 2;
     row.strike->SetEnds({grid.Left(Board::Side), middle, design.x2(), middle});
@@ -104,7 +105,7 @@ void Form1::LayOutRow(const LineControls& row, const Grid& grid) {
 void Form1::LayOutColumn(const LineControls& column, const Grid& grid) {
     const std::int16_t number = column.line.number;
     const double left = grid.Left(number);
-    // The first column is not centred.
+    // In the first column, the strike line and the marker keep their designed horizontal position.
     const bool isFirst = number == 1;
     const QLineF design = Design::Strike(column.line);
     const double middle = isFirst ? design.x1() : left + Design::cell.width() / 2;

@@ -15,8 +15,8 @@
 
 // Pictures of one kind, looked up by index, 1..Count(); any other index throws SubscriptError.
 //
-// Each exists twice: as the list holds it, in its own size, and as a larger rendering for screens with more
-// pixels. Both are read when they are first asked for.
+// Each picture exists in its own size and as a larger rendering, from which all other sizes are made. Both are loaded
+// when they are first needed.
 class PictureList final : public QObject {
 public:
     // The pictures :/pictures/<stem>1.<suffix> to <stem><count>.<suffix>, their larger renderings
@@ -30,7 +30,7 @@ public:
 
     const QString& FileName(std::int16_t index) const { return At(index).fileName; }
 
-    // The picture drawn in exactly `size` device pixels, as sharp as can be.
+    // The picture in exactly `size` device pixels, as sharp as possible.
     QPixmap Rendering(std::int16_t index, const QSize& size) const;
 
 private:
