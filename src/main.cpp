@@ -29,7 +29,7 @@ void ExplainFatal(QtMsgType type, const QMessageLogContext& context, const QStri
     standardHandler(type, context, message);
 }
 
-// Those that Qt leaves to plug-ins: without them the game would be played with invisible dice.
+// Qt reads JPEG and ICO pictures with plug-ins. Without them the dice and the arrows would be invisible.
 bool CanReadPictures() {
     return QImageReader(u":/pictures/die1.jpg"_s).canRead() && QImageReader(u":/pictures/arrow-down.ico"_s).canRead();
 }

@@ -10,7 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 
-// The grid's 25 placed values, addressed by row and column, both 1..5. A new board is empty.
+// The 25 cells of the grid, addressed by row and column, both 1..5. A new board is empty.
 class Board {
 public:
     static constexpr std::int16_t Side = 5;

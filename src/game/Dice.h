@@ -5,5 +5,5 @@
 
 #include <cstdint>
 
-// The throw of a six-sided die, 1..6, that a uniform number in [0, 1) stands for.
+// Turns a uniform number in [0, 1) into the throw of a die, 1..6.
 std::int16_t RollDie(double uniform);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Yes or no; no as well while another dialog is open.
+// Whether the player answers Yes. Does not ask while another dialog is open: the answer is No.
 bool Confirm(QWidget* window, const QString& question) {
     if (IsDialogOpen()) {
         return false;

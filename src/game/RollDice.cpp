@@ -18,7 +18,7 @@ namespace {
 // A roll that starts inside a pause of another one nests deeper, and the stack is finite.
 constexpr int maxNestedPauses = 64;
 
-// A screen reader that hears the name of a hidden die takes it for hidden from then on.
+// Only a die that is shown gets a name: a screen reader that meets it while it is hidden goes on ignoring it.
 void NameShownDie(Picture& die, const QString& ordinal) {
     if (!die.isHidden()) {
         die.setAccessibleName(SpokenNames::Die(ordinal, die.Index()));
@@ -53,8 +53,8 @@ void Form1::RollDice() {
     NameShownDie(*imgRolled2_, u"Second"_s); // shown if an earlier roll was placed inside its pause
     speech_.Rolled(firstDie, secondDie);
 
-    // The roll may be placed, or a new game begun, inside either pause; what follows is done all the same,
-    // from the fields as they then stand.
+    // The roll may be placed, or a new game started, inside either pause. The remaining steps run all the same, with
+    // the fields as they are then.
     imgRolled1_->show();
     NameShownDie(*imgRolled1_, u"First"_s);
     RepaintEffects();
@@ -69,7 +69,7 @@ void Form1::RollDice() {
     RepaintEffects();
 }
 
-// A count of passes on purpose, not a time.
+// Counts passes of the event loop. It is not a measured time, by design.
 void Form1::Pause() {
     if (nestedPauses_ == maxNestedPauses) {
         return;

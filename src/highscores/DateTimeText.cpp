@@ -14,7 +14,7 @@ QString TwoDigits(std::int16_t value) {
 }
 
 QString DateTimeText(const Platform& platform) {
-    // Each reading comes after the one before it: the object of a call is made before its argument.
+    // The clock is read in this order, because the object of a call is evaluated before its arguments.
     return u"%1/%2/%3 %4:%5"_s.arg(platform.year())
         .arg(platform.month())
         .arg(platform.day())

@@ -9,10 +9,9 @@
 
 struct Platform;
 
-// The value in decimal, with a "0" before it when it is less than 10 ("05", "10"; a negative value gets one
-// too).
+// The value in decimal, with a "0" before it if it is less than 10: "05", "10". A negative value gets one too: "0-5".
 QString TwoDigits(std::int16_t value);
 
-// The present local date and time as year/month/day hour:minute, only the minute padded: "2026/1/5 9:05". The
-// five fields are separate readings of the platform's clock, in that order.
+// The local date and time, for example "2026/1/5 9:05"; only the minute is padded. Each of the five fields is a
+// separate reading of the platform's clock, in the order of the text.
 QString DateTimeText(const Platform& platform);

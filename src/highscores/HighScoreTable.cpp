@@ -19,7 +19,7 @@ QString ScoreKey(std::int16_t rank) {
     return u"HighScores/Score%1"_s.arg(rank);
 }
 
-// The stored format's name for what is a date-time text.
+// The stored format calls the date-time text "User".
 QString TextKey(std::int16_t rank) {
     return u"HighScores/User%1"_s.arg(rank);
 }

@@ -12,27 +12,26 @@
 
 class QSettings;
 
-// One row of the table: a round's score and the date-time text of its end.
+// One row of the table: the score of a round, and the date and time of its end.
 struct HighScoreEntry {
     std::int16_t score = 0;
     QString text;
 };
 
-// The five best rounds, rank 1 first. A new table is all zeros with empty texts, which is also what an unused
-// rank looks like.
+// The five best rounds, rank 1 first. An unused rank has a score of 0 and an empty text; a new table has only such.
 //
-// Ranks are 1..5 throughout; any other throws SubscriptError.
+// Ranks are 1..5; any other throws SubscriptError.
 class HighScoreTable {
 public:
     static constexpr std::int16_t Ranks = 5;
 
     const HighScoreEntry& At(std::int16_t rank) const;
 
-    // Puts a score that beats one of the table's above the first that is less, so a tie goes below the older entry, and
-    // drops the last entry. The rank, if it has one; `text` is asked for only then.
+    // Enters a score above the first entry with a lower one, so a tie goes below the older entry, and drops the last
+    // entry. Returns the rank, or nothing if the score misses the table. Calls `text` only if the score enters.
     std::optional<std::int16_t> Enter(std::int16_t score, const std::function<QString()>& text);
 
-    // What a list of the best rounds reads at the rank: the score, two blanks and the text.
+    // The entry as the list of high scores shows it: the score, two blanks and the text.
     QString Caption(std::int16_t rank) const;
 
     // Replaces the table with what the store holds now, in the store's order. If the store cannot be read, the table

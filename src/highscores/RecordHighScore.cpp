@@ -15,7 +15,7 @@ void Form1::SaveHighScores() {
 
 void Form1::RecordHighScore(std::int16_t score) {
     const auto rank = highScores_.Enter(score, [this] { return DateTimeText(platform_); });
-    // On disk before anything else happens, so that no end of the program can lose the round.
+    // Now, so that the round is not lost however the program ends.
     SaveHighScores();
     speech_.RoundRanked(rank);
     if (rank) {

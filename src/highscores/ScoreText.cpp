@@ -21,13 +21,13 @@ std::optional<std::int16_t> ReadScore(QStringView text) {
     static const QRegularExpression number(u"^([+-]?)0*([0-9]*)\\.?([0-9]*)"_s);
     using Limits = std::numeric_limits<std::int16_t>;
 
-    // Through Latin-1, because half a surrogate pair is no text to a regular expression.
+    // QRegularExpression matches nothing in invalid UTF-16; after Latin-1 the text is always valid.
     const auto match = number.match(QString::fromLatin1(text.toLatin1()).removeIf(IsBlank));
     const QStringView whole = match.capturedView(2);
     if (whole.size() > Limits::digits10 + 1) {
         return std::nullopt;
     }
-    // The fraction is compared as it stands: as a binary number 0.50000000000000000001 would be a half.
+    // The fraction is compared as text: as a double, 0.50000000000000000001 would be exactly a half.
     const QStringView fraction = match.capturedView(3);
     const QString half = u"5"_s.leftJustified(fraction.size(), u'0');
     const int truncated = whole.toInt();

@@ -8,8 +8,7 @@
 #include <cstdint>
 #include <optional>
 
-// The score that a stored text stands for: its leading decimal number, with a sign and a fraction if it has
-// them, rounded to the nearest integer and from half-way to the even one. Blanks are skipped wherever they
-// stand, the rest of the text is ignored, and a text without a number is 0. Nothing when the rounded number
-// needs more than 16 bits.
+// The score in a stored text: the decimal number at its start, which may have a sign and a fraction, rounded to the
+// nearest integer (a half to the even one). Blanks anywhere are skipped, and the rest of the text is ignored. Without a
+// number the score is 0. Returns nothing if the rounded number does not fit into 16 bits.
 std::optional<std::int16_t> ReadScore(QStringView text);

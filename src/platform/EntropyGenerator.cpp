@@ -22,13 +22,13 @@ EntropyGenerator::EntropyGenerator() : engine_(SeededFromEntropy()) {
 void EntropyGenerator::Reseed(int seconds) {
     const auto a = engine_();
     const auto b = engine_();
-    // A seed sequence keeps the low 32 bits of each value, so both halves go in.
+    // A seed sequence uses the low 32 bits of each value, so both halves are passed.
     std::seed_seq seed{a, a >> 32, b, b >> 32, static_cast<std::uint64_t>(seconds)};
     engine_.seed(seed);
 }
 
 double EntropyGenerator::Next() {
-    // 53 bits fill a double exactly, so the result never rounds up to 1.
+    // A double holds 53 bits exactly, so the result is never rounded up to 1.
     constexpr int mantissaBits = 53;
     return std::ldexp(static_cast<double>(engine_() >> (64 - mantissaBits)), -mantissaBits);
 }

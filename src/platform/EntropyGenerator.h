@@ -5,8 +5,8 @@
 
 #include <random>
 
-// The game's source of uniform numbers. It starts from the system's entropy, and re-seeding folds the given number into
-// the running state instead of replacing it: sixty seeds would be sixty games, and a player could pick the second.
+// The game's source of uniform random numbers. It starts from the system's entropy. Re-seeding adds the given number to
+// the current state instead of replacing it: with sixty seeds there would be only sixty possible games.
 class EntropyGenerator {
 public:
     EntropyGenerator();

@@ -7,7 +7,7 @@
 #include <limits>
 #include <stdexcept>
 
-// Run-time errors of the game: a broken promise of the code, never a state of play. Nothing catches them.
+// Programming errors: no state of the game causes them, and nothing catches them.
 struct OverflowError : std::overflow_error {
     OverflowError() : std::overflow_error("16-bit overflow") {}
 };
@@ -16,7 +16,7 @@ struct SubscriptError : std::out_of_range {
     SubscriptError() : std::out_of_range("subscript out of range") {}
 };
 
-// The 16-bit integer that holds `value`. Throws OverflowError when none does.
+// `value` as a 16-bit integer. Throws OverflowError if it does not fit.
 constexpr std::int16_t ToInt16(std::int64_t value) {
     using Limits = std::numeric_limits<std::int16_t>;
     if (value < Limits::min() || value > Limits::max()) {
@@ -25,12 +25,12 @@ constexpr std::int16_t ToInt16(std::int64_t value) {
     return static_cast<std::int16_t>(value);
 }
 
-// The sum of two 16-bit integers. Throws OverflowError when it needs more than 16 bits.
+// a + b. Throws OverflowError if the sum does not fit into 16 bits.
 constexpr std::int16_t CheckedAdd(std::int16_t a, std::int16_t b) {
     return ToInt16(std::int64_t{a} + b);
 }
 
-// `index` itself when it lies in first..last; throws SubscriptError otherwise.
+// Returns `index` if it lies in first..last. Throws SubscriptError otherwise.
 constexpr std::int16_t CheckedIndex(std::int16_t index, std::int16_t first, std::int16_t last) {
     if (index < first || index > last) {
         throw SubscriptError();

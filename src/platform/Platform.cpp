@@ -40,7 +40,7 @@ Platform SystemPlatform() {
         .reseed = [generator](int seconds) { generator->Reseed(seconds); },
         .nextUniform = [generator] { return generator->Next(); },
         .pumpEvents = [] { QCoreApplication::processEvents(); },
-        // No destructors and no exit handlers: the call may come from inside a dialog inside a roll.
+        // Without destructors and exit handlers, because a dialog or a roll may be running.
         .endProcess = [] { std::_Exit(EXIT_SUCCESS); },
         .openSettings = OpenUserSettings,
     };

@@ -8,9 +8,9 @@
 #include <functional>
 #include <memory>
 
-// What the game asks of the machine.
+// What the game needs from the machine.
 struct Platform {
-    // The local date and time. Every call is a reading of its own, so two of them may straddle a minute.
+    // The local date and time. Each call reads the clock anew, so two calls may lie on both sides of midnight.
     std::function<int()> year;   // four digits
     std::function<int()> month;  // 1..12
     std::function<int()> day;    // 1..31
@@ -18,19 +18,19 @@ struct Platform {
     std::function<int()> minute; // 0..59
     std::function<int()> second; // 0..59
 
-    // A source of uniform numbers in [0, 1), which takes up a small whole number, such as the seconds of the clock.
+    // Random numbers, uniform in [0, 1). Re-seeding mixes in a small number, the seconds of the clock.
     std::function<void(int seconds)> reseed;
     std::function<double()> nextUniform;
 
-    // Dispatches every event that is pending and returns; never waits for one.
+    // Dispatches all pending events and returns. It does not wait for any.
     std::function<void()> pumpEvents;
 
-    // Ends the program at once with exit status 0: nothing after the call runs, nothing is saved.
+    // Ends the program at once with exit status 0. Nothing is saved, and the call does not return.
     std::function<void()> endProcess;
 
     // Opens the store of the high scores. Every load and every save opens it anew: a QSettings keeps its first error.
     std::function<std::unique_ptr<QSettings>()> openSettings;
 };
 
-// This machine, with this user's settings.
+// The real machine, with the settings of the current user.
 Platform SystemPlatform();

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <optional>
 
-// One of the board's ten lines: a row read from its left end, or a column read from its top.
+// A line of the board: a row, read from the left, or a column, read from the top.
 struct BoardLine {
     enum class Kind { Row, Column };
 
@@ -33,5 +33,5 @@ inline constexpr std::array<BoardLine, 10> boardLines{{
     {BoardLine::Kind::Column, 5},
 }};
 
-// The line's points, or nothing while one of its cells is empty.
+// The points of the line, or nothing if one of its cells is empty.
 std::optional<std::int16_t> ScoreLine(const BoardLine& line, const Board& board);

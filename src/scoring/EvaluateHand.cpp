@@ -17,7 +17,7 @@ std::int16_t CountValue(RollValue value, const Hand& hand) {
     return ToInt16(std::ranges::count(hand, value));
 }
 
-// How many of the sums 2..12 occur exactly `count` times.
+// How many different sums in 2..12 occur exactly `count` times in the hand.
 std::int16_t SumsOccurring(std::int16_t count, const Hand& hand) {
     std::int16_t sums = 0;
     for (RollValue value = lowestSum; value <= highestSum; value = CheckedAdd(value, 1)) {
@@ -28,7 +28,7 @@ std::int16_t SumsOccurring(std::int16_t count, const Hand& hand) {
     return sums;
 }
 
-// Whether the hand holds the next `steps` neighbours of `start`, each `direction` (1 or -1) from the last.
+// Whether the hand holds the `steps` numbers after `start`; `direction` is 1 (upwards) or -1 (downwards).
 bool RunsFrom(RollValue start, std::int16_t direction, int steps, const Hand& hand) {
     for (RollValue next = start; steps > 0; --steps) {
         next = CheckedAdd(next, direction);
