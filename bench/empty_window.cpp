@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-// An empty window with a menu bar and a status bar: the least that a program of this toolkit can be.
+// An empty window with a menu bar and a status bar: the smallest program to compare the game with.
 
 #include <QApplication>
 #include <QMainWindow>

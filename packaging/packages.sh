@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 the Kelvaro developers
 # SPDX-License-Identifier: MIT
 #
-# Sourced by the scripts that build the game, in the project's folder.
+# Functions for the scripts that install packages and build the game. They are called in the project's folder.
 
 oldest_cmake=3.25
 log=build/log
@@ -12,8 +12,8 @@ is_installed() {
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-# attempt TITLE COMMAND...: says the title and a dot for every few lines that the command prints, so that something moves,
-# and the seconds; the lines are in $log. Gives the command's status.
+# attempt TITLE COMMAND...: runs the command. Prints the title, a dot for every five lines of its output, and the seconds it
+# took. The output is in $log. Returns the command's status.
 attempt() {
     local status=0 began=$SECONDS
     printf '%s ' "$1"
@@ -24,22 +24,22 @@ attempt() {
     return "$status"
 }
 
-# step TITLE COMMAND...: the same, and ends the script when the command fails, with what it printed.
+# step TITLE COMMAND...: the same. If the command fails, prints its output and ends the script.
 step() {
     attempt "$@" || { local status=$?; cat "$log" >&2; exit "$status"; }
 }
 
-# need PACKAGE...: installs those that are missing. Where that cannot be it says so and goes on: what CMake finds without
-# a package is as good.
+# need PACKAGE...: installs the missing ones. If that is not possible it says so and goes on, because CMake may find what it
+# needs elsewhere.
 need() {
     local package missing=() as_root=()
-    command -v apt-get >/dev/null || { echo "No apt-get here to install what Debian calls $*; going on" >&2; return 0; }
+    command -v apt-get >/dev/null || { echo "There is no apt-get to install $*; going on" >&2; return 0; }
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
     if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null || { echo "No sudo here to install ${missing[*]}; going on" >&2; return 0; }
+        command -v sudo >/dev/null || { echo "There is no sudo to install ${missing[*]}; going on" >&2; return 0; }
         as_root=(sudo)
     fi
     attempt "Installing ${missing[*]}" "${as_root[@]}" sh -c 'apt-get update &&
@@ -52,14 +52,15 @@ configure() {
     attempt "Configuring ($1)" cmake --preset "$@"
 }
 
-# build PRESET: configures and builds build/PRESET. A first failure may be a folder that was moved, or a missing package.
+# build PRESET: configures and builds build/PRESET. If the first try fails, the project may have been moved or a package may be
+# missing, so it installs packages and starts afresh.
 build() {
     if ! command -v cmake >/dev/null || ! configure "$1"; then
         need g++ cmake ninja-build qt6-base-dev
         local version
         version=$(cmake --version 2>/dev/null | sed -n '1s/.* //p') || true
         [ "$(printf '%s\n' "$oldest_cmake" "$version" | sort --version-sort | head -n 1)" = "$oldest_cmake" ] ||
-            { echo "Kelvaro needs CMake $oldest_cmake or newer; here is ${version:-none}." >&2; exit 1; }
+            { echo "Kelvaro needs CMake $oldest_cmake or newer; found: ${version:-none}." >&2; exit 1; }
         configure "$1" --fresh || { grep -E '^ *Kelvaro needs' "$log" || cat "$log"; exit 1; } >&2
     fi
     step "Building ($1)" cmake --build --preset "$1"

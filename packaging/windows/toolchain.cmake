@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 the Kelvaro developers
 # SPDX-License-Identifier: MIT
 
-# For Windows on x86-64, from Debian: each function and table on its own, so that the linker leaves out what nothing uses (of
-# functions few, as their unwinding tables hold them), and no path of the folder that it was built in.
+# Builds for Windows on x86-64 with Debian's mingw-w64. Each function and table has a section of its own, so that the linker can
+# remove the unused ones. The program must not contain the path of the build folder.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
