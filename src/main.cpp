@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
-#include "controls/Accessibility.h"
 #include "controls/Application.h"
 #include "mainwindow/Form1.h"
 #include "platform/Platform.h"
@@ -23,7 +22,7 @@ QtMessageHandler standardHandler = nullptr;
 // Without a display Qt aborts with a fatal message. This replaces the message and the core dump.
 void ExplainFatal(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (type == QtFatalMsg) {
-        std::fputs("kelvaro: there is no display to open a window on, or no Qt platform plugin for it\n", stderr);
+        std::fputs("kelvaro: there is no display to open a window on, or no Qt platform plug-in for it\n", stderr);
         std::_Exit(EXIT_FAILURE);
     }
     standardHandler(type, context, message);
@@ -43,15 +42,13 @@ int main(int, char* argv[]) {
     // Set first, because newer Qt registers the id with the desktop while the application is created.
     QGuiApplication::setDesktopFileName(u"io.github.kelvaro.Kelvaro"_s);
     standardHandler = qInstallMessageHandler(ExplainFatal);
-    int noArguments = 1; // only the program's name: the game takes no options, not even those of Qt
-    Application application(noArguments, argv);
+    Application application(argv);
     qInstallMessageHandler(standardHandler);
 
     if (!CanReadPictures()) {
         std::fputs("kelvaro: Qt cannot read the game's pictures: its JPEG or ICO plug-in is missing\n", stderr);
         return EXIT_FAILURE;
     }
-    InstallAccessibility();
     Form1 window(SystemPlatform());
     window.show();
     return QApplication::exec();

@@ -35,7 +35,6 @@ public:
 class Player final : public Performer {
 public:
     Player() {
-        InstallAccessibility();
         // An open dialog runs an event loop of its own. This timer fires there too, so that the script can go on.
         QObject::connect(&idle_, &QTimer::timeout, [this] { PerformNewDialog(); });
         idle_.start(0);

@@ -76,7 +76,7 @@ private slots:
 };
 
 int main(int argc, char* argv[]) {
-    PlayersApplication application(argc, argv);
+    PlayersApplication application(argv);
     QApplication::setDoubleClickInterval(0); // two clicks of the player are never a double click
     tst_game test;
     return QTest::qExec(&test, argc, argv);

@@ -139,7 +139,7 @@ private slots:
 };
 
 int main(int argc, char* argv[]) {
-    PlayersApplication application(argc, argv);
+    PlayersApplication application(argv);
     tst_window test;
     return QTest::qExec(&test, argc, argv);
 }

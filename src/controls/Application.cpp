@@ -3,6 +3,8 @@
 
 #include "controls/Application.h"
 
+#include "controls/Accessibility.h"
+
 #include <QKeyEvent>
 
 namespace {
@@ -25,8 +27,12 @@ bool MovesFocus(int key) {
 
 } // namespace
 
-// This is not an event filter, because while a screen reader is running a filter of Qt's comes first and replaces key
-// events with copies that have no timestamps.
+Application::Application(char* argv[]) : QApplication(argumentCount_, argv) {
+    InstallAccessibility();
+}
+
+// Not an event filter: with a screen reader, a filter of Qt's own comes first and replaces key events with copies that
+// have no timestamps.
 bool Application::notify(QObject* receiver, QEvent* event) {
     if (auto* key = dynamic_cast<QKeyEvent*>(event); key != nullptr && key->spontaneous()) {
         if (key->type() == QEvent::KeyRelease) {
