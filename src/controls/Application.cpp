@@ -47,7 +47,8 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 // X11 sends each repeat as a release and a press with the same timestamp. Qt marks them as a repeat only if it reads
-// both at once.
+// both at once. Some virtual keyboards for Wayland send all keys with the timestamp 0.
 bool Application::IsRepeat(const QKeyEvent& press) const {
-    return press.isAutoRepeat() || (press.key() == releasedKey_ && press.timestamp() == releaseTime_);
+    const bool isAtOnce = press.timestamp() != 0 && press.timestamp() == releaseTime_;
+    return press.isAutoRepeat() || (press.key() == releasedKey_ && isAtOnce);
 }
