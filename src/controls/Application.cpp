@@ -47,8 +47,13 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 // X11 sends each repeat as a release and a press with the same timestamp. Qt marks them as a repeat only if it reads
-// both at once. Some virtual keyboards for Wayland send all keys with the timestamp 0.
+// both at once. Some virtual keyboards for Wayland send all keys with the timestamp 0. On Windows Qt marks every
+// repeat, and the timestamp is the time when Qt reads the key, so that of a quick new press can be the same.
 bool Application::IsRepeat(const QKeyEvent& press) const {
+#ifdef Q_OS_WIN
+    return press.isAutoRepeat();
+#else
     const bool isAtOnce = press.timestamp() != 0 && press.timestamp() == releaseTime_;
     return press.isAutoRepeat() || (press.key() == releasedKey_ && isAtOnce);
+#endif
 }
