@@ -9,11 +9,14 @@
 
 #include <QAccessibleWidget>
 #include <QDialog>
+#include <QEventLoop>
 #include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -138,6 +141,17 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
 
 void InstallAccessibility() {
     QAccessible::installFactory(MakeInterface);
+}
+
+// On a key, Orca 48 first asks for the active window. If that is already the dialog, Orca reads the dialog and then
+// cuts it off to say the key.
+void AwaitSpokenKey() {
+    using namespace std::chrono_literals;
+    if (QAccessible::isActive()) {
+        QEventLoop answers;
+        QTimer::singleShot(150ms, &answers, &QEventLoop::quit);
+        answers.exec(QEventLoop::ExcludeUserInputEvents);
+    }
 }
 
 Announcer::Announcer(QWidget* parent) : QWidget(parent) {

@@ -12,6 +12,10 @@
 // picture button is its hint; if it is pressed through the accessibility interface, it acts a moment later.
 void InstallAccessibility();
 
+// Call it before a dialog opens. While a screen reader is running it waits a moment, so that the screen reader says the
+// key that opens the dialog before the dialog's text; otherwise it may cut off the text.
+void AwaitSpokenKey();
+
 // Makes a screen reader say something. It is a widget, because announcements have to come from one; it is never shown.
 class Announcer final : public QWidget {
 public:

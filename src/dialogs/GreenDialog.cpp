@@ -3,6 +3,7 @@
 
 #include "dialogs/GreenDialog.h"
 
+#include "controls/Accessibility.h"
 #include "controls/Label.h"
 #include "controls/ScreenPlace.h"
 
@@ -67,6 +68,7 @@ GreenDialog::GreenDialog(const QString& name, const QString& caption, const QSiz
 }
 
 void GreenDialog::ShowModal(const QWidget& window) {
+    AwaitSpokenKey();
     if (IsDialogOpen()) {
         return;
     }

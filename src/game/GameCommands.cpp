@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Kelvaro developers
 // SPDX-License-Identifier: MIT
 
+#include "controls/Accessibility.h"
 #include "controls/Picture.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmHelp.h"
@@ -15,6 +16,7 @@ namespace {
 
 // Whether the player answers Yes. Does not ask while another dialog is open: the answer is No.
 bool Confirm(QWidget* window, const QString& question) {
+    AwaitSpokenKey();
     if (IsDialogOpen()) {
         return false;
     }
