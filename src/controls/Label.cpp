@@ -89,7 +89,7 @@ void Label::FitText() {
 
 bool Label::Fits(const QFont& font) const {
     const QSize room = room_.isValid() ? room_ : size();
-    // A label that is lower than two lines holds one.
+    // A label less than two lines high holds one line.
     const int wrapping = 2 * QFontMetrics(font_).lineSpacing() <= room.height() ? Qt::TextWordWrap : 0;
     const QFontMetrics metrics(font);
     const QString measured = text().left(mostCharacters);

@@ -18,7 +18,8 @@ struct HighScoreEntry {
     QString text;
 };
 
-// The five best rounds, rank 1 first. An unused rank has a score of 0 and an empty text; a new table has only such.
+// The five best rounds, rank 1 first. An unused rank has a score of 0 and an empty text; in a new table all ranks are
+// unused.
 //
 // Ranks are 1..5; any other throws SubscriptError.
 class HighScoreTable {
@@ -35,7 +36,8 @@ public:
     QString Caption(std::int16_t rank) const;
 
     // Replaces the table with what the store holds now, in the store's order. If the store cannot be read, the table
-    // stays as it is; so does an entry whose stored score needs more than 16 bits. `store` has had no error yet.
+    // stays as it is; so does an entry whose stored score needs more than 16 bits. Pass a newly
+    // opened store: a QSettings keeps its first error.
     void Load(QSettings& store);
 
     // Writes all entries to disk before it returns. If the store cannot be written, nothing is reported.

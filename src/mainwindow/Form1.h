@@ -62,8 +62,8 @@ private:
     void StartNewGame();
     void RollDice();
     void Pause();
-    // Places the pending roll in the cell, if it is empty. Otherwise, or if no roll is pending, only a screen reader
-    // says so. Throws SubscriptError unless row and column lie in 1..5.
+    // Places the pending roll in the cell. If the cell is filled or no roll is pending, only tells a screen reader so.
+    // Throws SubscriptError unless row and column lie in 1..5.
     void PlaceRoll(PictureButton& cell, std::int16_t row, std::int16_t column);
     void Image1_Click();
     void imgNewGame_Click();
@@ -124,7 +124,7 @@ private:
     Platform platform_;
     Speech speech_;
     int nestedPauses_ = 0;
-    bool isRollRevealed_ = false; // or its pauses are still running
+    bool isRollRevealed_ = false; // false while the pauses of a roll run
     bool isLoaded_ = false;
     bool isFrameKnown_ = false;
     QMargins frame_;
@@ -138,7 +138,7 @@ private:
     PictureList rowArrow_;
     PictureList columnArrow_;
 
-    std::array<PictureButton*, boardCells.size()> cells_{}; // as the board has them
+    std::array<PictureButton*, boardCells.size()> cells_{}; // at Board::Element(row, column)
     std::vector<LineControls> lines_;                       // in the order in which they are scored
     Picture* imgRolled1_ = nullptr;
     Picture* imgRolled2_ = nullptr;

@@ -19,7 +19,7 @@
 // when they are first needed.
 class PictureList final : public QObject {
 public:
-    // The pictures :/pictures/<stem>1.<suffix> to <stem><count>.<suffix>, their larger renderings
+    // The pictures :/pictures/<stem>1.<suffix> to <stem><count>.<suffix>, and their larger renderings
     // :/pictures/large/<stem>1.png and so on.
     PictureList(const QString& stem, const QString& suffix, std::int16_t count);
 

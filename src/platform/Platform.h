@@ -10,7 +10,7 @@
 
 // What the game needs from the machine.
 struct Platform {
-    // The local date and time. Each call reads the clock anew, so two calls may lie on both sides of midnight.
+    // The local date and time. Each call reads the clock anew, so two calls may lie on either side of midnight.
     std::function<int()> year;   // four digits
     std::function<int()> month;  // 1..12
     std::function<int()> day;    // 1..31
