@@ -20,12 +20,12 @@ private:
         StartNewGame();
     }
 
-    void Press(const QString& step) override {
-        const bool isFocusMeant = step == "Space" || step == "Return" || step == "Enter";
-        if (IsDialogOpen()) {
-            PressInDialog(isFocusMeant ? dialogs[dialog_].buttons[button_] : step);
+    void Press(const QString& step, bool isInDialog) override {
+        const bool actsOnFocus = step == "Space" || step == "Return" || step == "Enter";
+        if (isInDialog) {
+            PressInDialog(actsOnFocus ? dialogs[dialog_].buttons[button_] : step);
         } else {
-            PressInWindow(isFocusMeant ? FocusedControl() : step);
+            PressInWindow(actsOnFocus ? FocusedControl() : step.section(':', -1)); // a double click is one click
         }
     }
 
@@ -56,18 +56,22 @@ private:
     bool IsDialogOpen() const override { return !dialog_.isEmpty(); }
 
     void Open(const QString& entry) {
-        dialog_ = entry;
-        button_ = 0;
-        if (entry == "mnuGameHigh") {
+        const bool isHighScores = entry == "mnuGameHigh";
+        if (isHighScores) {
             LoadHighScores();
-            spokenTitle_ = reports_.isEmpty() ? "" : std::exchange(reports_, "") + " High Scores";
         }
-        PerformDialog();
+        if (!IsDialogOpen()) {
+            dialog_ = entry;
+            button_ = 0;
+            shownScores_ = highScores_;
+            spokenTitle_ = isHighScores && !reports_.isEmpty() ? std::exchange(reports_, "") + " High Scores" : "";
+            PerformDialog();
+        }
     }
 
     void PressInDialog(const QString& step) {
-        const auto& [title, buttons, escapePresses, texts] = dialogs[dialog_];
-        if (QStringList{"Tab", "Shift+Tab", "Left", "Right", "Up", "Down"}.contains(step)) {
+        const auto& [title, buttons, escapePresses, controls] = dialogs[dialog_];
+        if (movesFocus.contains(step) && step != "Home" && step != "End") {
             button_ = (button_ + 1) % int(buttons.size()); // of one or two
         } else if (step == "Escape" && !escapePresses.isEmpty()) {
             CloseDialog(escapePresses);
@@ -78,7 +82,6 @@ private:
 
     void CloseDialog(const QString& button) {
         const QString entry = std::exchange(dialog_, "");
-        spokenTitle_.clear();
         if (button == "ResetScores") {
             Save(ScoreTable(5)); // the window's own table stays
             Report("The scores are reset.");
@@ -179,7 +182,7 @@ private:
         }
     }
 
-    // No name while one of its cells is empty.
+    // Without points and a name if one of its cells is empty.
     Worth WorthOfLine(int line) const {
         Sums sums;
         for (int step = 0; step < 5; ++step) {
@@ -205,8 +208,8 @@ private:
 
     void LoadHighScores() {
         for (int at = 0; at < 5; ++at) {
-            const bool isPossible = saved_[at].points <= 32'767;
-            highScores_[at] = {isPossible ? saved_[at].points : highScores_[at].points, saved_[at].text};
+            const bool fits = saved_[at].points <= 32'767; // into 16 bits
+            highScores_[at] = {fits ? saved_[at].points : highScores_[at].points, saved_[at].text};
         }
     }
 
@@ -236,7 +239,7 @@ private:
     // "Row 2: 15 points, Two Pair. ", or nothing while one of its cells is empty.
     QString Spoken(int line) const {
         const QString name = QString(line < 5 ? "Row %1" : "Column %1").arg(line % 5 + 1);
-        const auto [points, hand, counts] = WorthOfLine(line);
+        const auto [points, hand, pattern] = WorthOfLine(line);
         return hand ? QString("%1: %2 points, %3. ").arg(name).arg(points).arg(hand) : "";
     }
 
@@ -245,21 +248,24 @@ private:
     static QString Name(int cell) { return QString("img%1_%2").arg(cell / 5 + 1).arg(cell % 5 + 1); }
 
     QStringList See() override {
-        QStringList seen{"prompt: " + prompt_, "said: " + std::exchange(said_, ""), "focus: " + FocusedControl(),
-                         "store: " + store_, CanRoll() ? "mnuGameRoll: enabled" : "mnuGameRoll: disabled"};
-        seen += SeeStrip() + SeeDialog();
+        QStringList seen{"prompt: " + prompt_ + " (Client)",
+                         "said: " + (said_.isEmpty() ? "" : std::exchange(said_, "") + " (Notification)"),
+                         "focus: " + FocusedControl(), "store: " + store_};
+        seen += SeeStrip() + (IsDialogOpen() ? SeeDialog() : QStringList());
         for (int cell = 0; cell < 25; ++cell) {
             const QString sum = board_[cell] > 0 ? QString::number(board_[cell]) : "empty";
-            const QString spoken = QString("Row %1, column %2: %3").arg(cell / 5 + 1).arg(cell % 5 + 1).arg(sum);
+            const QString spoken =
+                QString("Row %1, column %2: %3 (Button)").arg(cell / 5 + 1).arg(cell % 5 + 1).arg(sum);
             const bool hasHint = cell == current_ && pending_ > 0 && isRevealed_ && moves_ == 1;
             const QString hint = hasHint ? QString("%1 to place").arg(pending_) : "";
             seen << Seen(Name(cell), {QString("cell%1.png").arg(qMax(1, board_[cell])), "", spoken, hint});
         }
         for (int line = 0; line < 10; ++line) {
-            const auto [points, hand, counts] = WorthOfLine(line);
+            const auto [points, hand, pattern] = WorthOfLine(line);
             const QString name = QString(line < 5 ? "_row%1" : "_col%1").arg(line % 5 + 1);
             if (hand) {
-                seen << Seen("lbl" + name, {QString::number(points), "#ffffff centred bold", Spoken(line).chopped(2)});
+                seen << Seen("lbl" + name, {QString::number(points), "#ffffff centred bold",
+                                            Spoken(line).chopped(2) + " (StaticText)"});
                 seen << Seen("img" + name, {line < 5 ? "arrow-right.ico" : "arrow-down.ico"}) << Seen("lin" + name, {});
             }
         }
@@ -268,28 +274,31 @@ private:
 
     QStringList SeeStrip() const {
         const QString total = QString::number(Total());
+        // The sum is "= 0" if the roll was placed in one of its pauses.
         const QString spokenSum = sum_.isEmpty() || sum_ == "= 0" ? "No roll" : "Sum of the roll: " + sum_.sliced(2);
-        const QString first = QString::number(shownDice_[0]), second = QString::number(shownDice_[1]);
+        const auto seeDie = [this](int die, const QString& spoken) {
+            const QString control = QString("imgRolled%1").arg(die + 1);
+            const QString picture = QString("die%1.jpg").arg(shownDice_[die]);
+            return isDieShown_[die] ? Seen(control, {picture, "", spoken.arg(shownDice_[die])}) : "";
+        };
         return {Seen("Line1", {}),
-                Seen("imgNewGame", {"newgame.png", "", "New Game"}),
-                Seen("lblRolled", {sum_, "#ffffff left bold on #008000", spokenSum}),
-                Seen("lblTotal", {total, "#ffffff centred bold", "Total: " + total + " points"}),
-                CanRoll() ? Seen("Image1", {"roll.png", "", "Roll Dice"}) : "",
-                isDieShown_[0] ? Seen("imgRolled1", {"die" + first + ".jpg", "", "First die: " + first}) : "",
-                isDieShown_[1] ? Seen("imgRolled2", {"die" + second + ".jpg", "", "Second die: " + second}) : ""};
+                Seen("imgNewGame", {"newgame.png", "", "New Game (Button)"}),
+                Seen("lblRolled", {sum_, "#ffffff left bold on #008000", spokenSum + " (StaticText)"}),
+                Seen("lblTotal", {total, "#ffffff centred bold", "Total: " + total + " points (StaticText)"}),
+                CanRoll() ? Seen("Image1", {"roll.png", "", "Roll Dice (Button)"}) : "",
+                seeDie(0, "First die: %1 (Graphic)"),
+                seeDie(1, "Second die: %1 (Graphic)")};
     }
 
     QStringList SeeDialog() const {
-        if (!IsDialogOpen()) {
-            return {};
-        }
         const Dialog& dialog = dialogs[dialog_];
-        QStringList seen = dialog.texts.split('\n', Qt::SkipEmptyParts);
+        QStringList seen = QString(dialog.controls).replace("VERSION", PROJECT_VERSION).split('\n', Qt::SkipEmptyParts);
         seen << Seen("dialog", {dialog.title, dialog.buttons[button_], spokenTitle_});
         for (int at = 0; at < 5 && dialog_ == "mnuGameHigh"; ++at) {
-            const auto& [points, text] = highScores_[at];
+            const auto& [points, text] = shownScores_[at];
             const QString spoken = QString("Rank %1: %2 points").arg(at + 1).arg(points) + (text.isEmpty() ? "" : ", ");
-            seen << Seen(QString("lblHighScore(%1)").arg(at), {QString("%1  ").arg(points) + text, spoken + text});
+            seen << Seen(QString("8,%1 281x25 lblHighScore(%2)").arg(8 + 24 * at).arg(at),
+                         {QString("%1  ").arg(points) + text, "#ffffff left bold", spoken + text + " (StaticText)"});
         }
         return seen;
     }
@@ -307,8 +316,8 @@ private:
     int current_ = 0, moves_ = 0; // the cell that has the focus or gets it; how often it moved since an announcement
 
     QString reports_, said_; // to be announced; what was announced since the last look
-    ScoreTable highScores_, saved_ = ScoreTable(5);
-    QString store_;                // the content of the file
+    ScoreTable highScores_, shownScores_, saved_ = ScoreTable(5); // the window's, the open dialog's, the file's
+    QString store_;                                               // the content of the file
     QString dialog_, spokenTitle_; // the menu entry of the open dialog; what a screen reader says for its title
     int button_ = 0;               // that has the focus
 };

@@ -24,15 +24,19 @@ inline QString StoreContent(const ScoreTable& table) {
 
 // One line of what is seen: a control, what it shows, its look, and its name and hint for a screen reader.
 inline QString Seen(const QString& control, QStringList details) {
+    details.prepend(control);
     details.removeAll("");
-    return control + ": " + details.join(" | ");
+    return details.join(" | ");
 }
 
 // Performs a script step by step, and notes what is seen and heard before each step and at the end. The player does it
 // with the real window; the model works out what must be seen.
 //
 // A step is one of these:
-//   img2_4          a click on a control, on a menu entry (mnuNewGame) or on a button of a dialog (Yes)
+//   img2_4          a click on a control, on a menu entry (mnuNewGame) or on a button of a dialog (ResetScores)
+//   double:img2_4   a double click on a control
+//   double:img2_4   a double click on a control
+//   press:img2_4    the mouse button goes down on a control and stays down (for the pictures only)
 //   Ctrl+R          a key
 //   close           the close box of the window or dialog
 //   3+4             says what the next dice are
@@ -40,7 +44,8 @@ inline QString Seen(const QString& control, QStringList details) {
 //   copy:120        another copy of the game saves a table from 120 points down
 //   1:img2_4        any of these during the first pause of the preceding roll; with 2: during the second
 //
-// While a dialog is open, clicks and keys go to it. One that is open at the end of the script is closed.
+// While a dialog is open, clicks and keys go to it. Menu entries go to the window, as with a screen reader, except for
+// rolling. A dialog that is open at the end of the script is closed.
 class Performer {
 public:
     virtual ~Performer() = default;
@@ -56,10 +61,11 @@ public:
 
 protected:
     static constexpr int passesOfAPause = 250'000;
+    static inline const QStringList movesFocus{"Tab", "Shift+Tab", "Left", "Right", "Up", "Down", "Home", "End"};
 
     virtual void Start() = 0;
     virtual void Save(const ScoreTable& table) = 0;
-    virtual void Press(const QString& step) = 0; // a click or a key
+    virtual void Press(const QString& step, bool isInDialog) = 0; // a click or a key
     virtual bool IsDialogOpen() const = 0;
     virtual QStringList See() = 0;
 
@@ -71,7 +77,6 @@ protected:
 
     void PerformDialog() {
         while (IsDialogOpen()) {
-            steps_ += steps_.isEmpty() ? QStringList("close") : QStringList();
             PerformNext();
         }
     }
@@ -85,10 +90,10 @@ protected:
 
 private:
     void PerformNext() {
-        QString step = steps_.takeFirst();
+        QString step = steps_.isEmpty() ? "close" : steps_.takeFirst(); // a dialog is open at the end of the script
         Note("Before " + step);
         step.remove(QRegularExpression("^[12]:"));
-        clock_ = clock_.addSecs(54'321); // some fifteen hours
+        clock_ = clock_.addSecs(52'132); // so that each step has a second and a day of its own
         if (step.startsWith("copy:")) {
             const int best = step.sliced(5).toInt();
             Save({{best, "a"}, {best - 1, "b"}, {best - 2, "c"}, {best - 3, "d"}, {best - 4, ""}});
@@ -98,7 +103,7 @@ private:
             hasEnded_ = false;
             Start();
         } else if (!hasEnded_) {
-            Press(step);
+            Press(step, IsDialogOpen() && (!step.startsWith("mnu") || step == "mnuGameRoll"));
         }
     }
 
@@ -107,9 +112,8 @@ private:
         seen << QString("program: %1").arg(hasEnded_ ? "has ended" : "runs");
         seen.removeAll("");
         seen.sort();
-        for (const QString& line : seen) {
-            notes_ << QString("%1, %2 more to go, %3").arg(when).arg(steps_.size()).arg(line);
-        }
+        const QString prefix = QString("%1, %2 more to go, ").arg(when).arg(steps_.size());
+        notes_ << seen.replaceInStrings(QRegularExpression("^"), prefix);
     }
 
     QStringList steps_, notes_;

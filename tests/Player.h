@@ -4,7 +4,6 @@
 #pragma once
 
 #include "Performer.h"
-#include "controls/Accessibility.h"
 #include "controls/Application.h"
 #include "controls/Picture.h"
 #include "mainwindow/Form1.h"
@@ -12,7 +11,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
-inline QAccessibleInterface& Spoken(QWidget& control) {
+inline QAccessibleInterface& Accessible(QWidget& control) {
     return *QAccessible::queryAccessibleInterface(&control);
 }
 
@@ -48,14 +47,11 @@ public:
     }
 
 private:
-    std::function<int()> Clock(const char* field) {
-        return [=, this] { return clock_.toString(field).toInt(); };
-    }
-
     void Start() override {
+        const auto clock = [this](const char* field) { return [=, this] { return clock_.toString(field).toInt(); }; };
         window_.reset();
         window_ = std::make_unique<Form1>(Platform{
-            Clock("yyyy"), Clock("M"), Clock("d"), Clock("H"), Clock("m"), Clock("s"),
+            clock("yyyy"), clock("M"), clock("d"), clock("H"), clock("m"), clock("s"),
             /* reseed */ [this](int seconds) { seed_ = seconds, passes_ = 0; },
             /* nextUniform */ [this] { return (dice_[draws_++ % 2] - 0.5) / 6; },
             /* pumpEvents */ [this] { PassEvents(); },
@@ -68,6 +64,7 @@ private:
     void PassEvents() {
         ++passes_;
         if (passes_ % passesOfAPause == 1) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest); // paints
             const int passes = passes_;
             PerformPause(passes / passesOfAPause + 1);
             passes_ = passes; // a roll inside the pause has counted its own
@@ -96,44 +93,57 @@ private:
         }
     }
 
-    void Press(const QString& step) override {
-        QWidget& window = IsDialogOpen() ? *QApplication::activeModalWidget() : *window_;
-        QWidget* control = window.findChild<QWidget*>(step);
+    void Press(const QString& step, bool isInDialog) override {
+        QWidget& window = isInDialog ? *QApplication::activeModalWidget() : *window_;
+        const QString name = step.section(':', -1);
+        QWidget* control = window.findChild<QWidget*>(name);
         for (auto* button : window.findChildren<QPushButton*>()) {
-            control = Caption(*button) == step ? button : control;
+            control = Caption(*button) == name ? button : control;
         }
         if (step == "close") {
             window.close();
         } else if (auto* entry = window.findChild<QAction*>(step)) {
             entry->trigger();
         } else if (control != nullptr) {
-            const QPoint middle = control->mapTo(&window, control->rect().center());
-            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, middle);
-        } else if (const QKeySequence keys(step); !keys.isEmpty() && keys[0].key() != Qt::Key_unknown) {
-            PressKey(keys[0]);
+            UseMouse(*window.windowHandle(), control->mapTo(&window, control->rect().center()), step);
+        } else if (const QKeySequence keys(name); !keys.isEmpty() && keys[0].key() != Qt::Key_unknown) {
+            PressKey(keys[0], movesFocus.contains(step));
         }
     }
 
-    void PressKey(QKeyCombination key) {
+    // Quick clicks on different controls are not a double click.
+    static void UseMouse(QWindow& window, const QPoint& point, const QString& step) {
+        QApplication::setDoubleClickInterval(step.startsWith("double:") ? 400 : 0);
+        QTest::mouseMove(&window, point);
+        if (step.startsWith("double:")) {
+            QTest::mouseDClick(&window, Qt::LeftButton, {}, point);
+        } else if (step.startsWith("press:")) {
+            QTest::mousePress(&window, Qt::LeftButton, {}, point);
+        } else {
+            QTest::mouseClick(&window, Qt::LeftButton, {}, point);
+        }
+    }
+
+    // A key that moves the focus is sent as a repeat and must act. Any other is held, and its repeats must not act.
+    void PressKey(QKeyCombination key, bool isRepeated) {
         const QKeyCombination outer = std::exchange(heldKey_, key);
-        SendKey(true, 100);
-        HoldKey();
+        SendKey(true, isRepeated ? 0 : 100, isRepeated);
+        if (!isRepeated) {
+            HoldKey();
+        }
         SendKey(false, 100);
         heldKey_ = outer;
     }
 
-    // A key that is held acts once, unless it moves the focus. X11 repeats it with a release and a press at the same
-    // time; elsewhere Qt marks the repeats.
+    // X11 repeats a key with a release and a press at the same time; elsewhere Qt marks the repeats.
     void HoldKey() {
-        const QStringList movesFocus{"Tab", "Shift+Tab", "Left", "Right", "Up", "Down", "Home", "End"};
-        if (!movesFocus.contains(QKeySequence(heldKey_).toString())) {
-            SendKey(false, 100);
-            SendKey(true, 0);
-            SendKey(false, 100, true);
-            SendKey(true, 1, true);
-        }
+        SendKey(false, 100);
+        SendKey(true, 0);
+        SendKey(false, 100, true);
+        SendKey(true, 1, true);
     }
 
+    // `later` is in milliseconds since the last key event. Qt marks an event that it takes for a repeat.
     void SendKey(bool isDown, int later, bool isMarked = false) {
         QWindow* window = (IsDialogOpen() ? QApplication::activeModalWidget() : window_.get())->windowHandle();
         PlayersApplication::time += later;
@@ -146,27 +156,49 @@ private:
 
     QStringList See() override {
         QFile store(storeName_);
-        // Tests send no accessibility events. The announcer's name is its latest announcement.
+        // No screen reader runs here. The announcer's name is its latest announcement.
         auto& announcer = Find("Announcer");
-        QStringList seen{"prompt: " + Spoken(*window_->statusBar()->findChild<QLabel*>()).text(QAccessible::Name),
-                         "said: " + announcer.accessibleName(), "focus: " + window_->focusWidget()->objectName(),
-                         "store: " + QString(store.open(QIODevice::ReadOnly) ? store.readAll() : ""),
-                         Find<QAction>("mnuGameRoll").isEnabled() ? "mnuGameRoll: enabled" : "mnuGameRoll: disabled"};
+        QStringList seen{"said: " + Named(announcer), "prompt: " + Named(*window_->statusBar()->findChild<QLabel*>()),
+                         "focus: " + window_->focusWidget()->objectName(),
+                         "store: " + QString(store.open(QIODevice::ReadOnly) ? store.readAll() : "")};
         announcer.setAccessibleName("");
         for (QWidget* control : window_->centralWidget()->findChildren<QWidget*>()) {
             seen << (control->isHidden() ? "" : SeeControl(*control));
         }
-        if (const QWidget* dialog = QApplication::activeModalWidget()) {
-            const QString button = Caption(dynamic_cast<const QPushButton&>(*dialog->focusWidget()));
-            seen << Seen("dialog", {dialog->windowTitle(), button, dialog->accessibleName()});
-            for (const auto* label : dialog->findChildren<QLabel*>()) {
-                seen << (label->isHidden() ? "" : Seen(label->objectName(), {label->text(), label->accessibleName()}));
-            }
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            seen += SeeDialog(*dialog);
         }
         return seen;
     }
 
-    static QString Caption(const QPushButton& button) { return button.text().remove('&').remove(' '); }
+    QStringList SeeDialog(QWidget& dialog) const {
+        const bool isAbove = dialog.windowHandle()->transientParent() == window_->windowHandle();
+        const bool hasFrame = dialog.windowFlags() & Qt::WindowCloseButtonHint && !dialog.windowIcon().isNull();
+        QStringList seen{Seen("dialog", {dialog.windowTitle(), Caption(*dialog.focusWidget()), dialog.accessibleName(),
+                                         isAbove && hasFrame ? "" : "not above, or no close box or icon"})};
+        if (const auto* question = qobject_cast<const QMessageBox*>(&dialog)) {
+            const bool isPlain = question->icon() == QMessageBox::NoIcon && question->textInteractionFlags() == 0;
+            return seen << Seen("question", {question->text(), isPlain ? "" : "icon or text to select"});
+        }
+        const QPoint offCentre = dialog.frameGeometry().center() - dialog.screen()->geometry().center();
+        QAccessibleInterface& last = *Accessible(dialog).child(Accessible(dialog).childCount() - 1);
+        seen << Seen(QString("size %1x%2").arg(dialog.maximumWidth()).arg(dialog.maximumHeight()),
+                     {QDebug::toString(Accessible(dialog).role()), QDebug::toString(last.role()),
+                      offCentre.manhattanLength() > 4 ? "off centre" : ""});
+        for (QWidget* control : dialog.findChildren<QWidget*>()) {
+            seen << SeePlace(*control) + SeeControl(*control);
+        }
+        return seen;
+    }
+
+    static QString Caption(const QWidget& button) { return button.property("text").toString().remove('&').remove(' '); }
+
+    // What a screen reader says of a control that has a name: "New Game (Button)".
+    static QString Named(QWidget& control) {
+        const QString name = Accessible(control).text(QAccessible::Name);
+        const QString role = QDebug::toString(Accessible(control).role()).section(':', -1);
+        return name.isEmpty() ? "" : QString("%1 (%2)").arg(name, role);
+    }
 
     static QString SeeControl(QWidget& control) {
         QString shown, look;
@@ -177,10 +209,27 @@ private:
             look = label->palette().windowText().color().name();
             look += label->alignment() == (Qt::AlignLeft | Qt::AlignTop) ? " left" : " centred";
             look += label->font().bold() ? " bold" : "";
+            look += label->textFormat() == Qt::PlainText ? "" : " with markup";
             look += label->autoFillBackground() ? " on " + label->palette().window().color().name() : "";
+        } else if (const auto* button = dynamic_cast<const QPushButton*>(&control)) {
+            shown = Caption(control) + (button->isDefault() ? " (default)" : "");
         }
-        return Seen(control.objectName(),
-                    {shown, look, control.accessibleName(), Spoken(control).text(QAccessible::Description)});
+        return Seen(control.objectName(), {shown, look, control.accessibleName().isEmpty() ? "" : Named(control),
+                                           Accessible(control).text(QAccessible::Description)});
+    }
+
+    // A control's place, and "cut off" if a part of its text cannot be seen, whatever the fonts.
+    static QString SeePlace(const QWidget& control) {
+        const QRect place = control.geometry();
+        const QRect button = control.parentWidget()->focusWidget()->geometry();
+        const bool isButton = control.inherits("QPushButton");
+        const QString text = control.property("text").toString();
+        const int flags = isButton ? Qt::AlignCenter : control.property("wordWrap").toBool() ? Qt::TextWordWrap : 0;
+        const QRect needed = text.isEmpty() ? QRect() : control.fontMetrics().boundingRect(place, flags, text);
+        const QRect visible = place & control.parentWidget()->rect();
+        const bool isCutOff = (needed | visible) != visible || (!isButton && needed.intersects(button));
+        return QString("%1,%2 %3x%4 ").arg(place.x()).arg(place.y()).arg(place.width()).arg(place.height())
+               + (isCutOff ? "cut off " : "");
     }
 
     QTemporaryDir folder_;

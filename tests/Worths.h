@@ -11,7 +11,7 @@ using Sums = QList<int>; // of two dice each
 struct Worth {
     int points = 0;
     const char* name = nullptr;
-    QRegularExpression counts; // how often the sums 2 to 12 occur in the line, a digit each
+    QRegularExpression pattern; // of the counts that WorthOf makes
 };
 
 // The best first: a line is worth the first that fits.
@@ -28,10 +28,11 @@ inline const QList<Worth> worths{
 };
 
 inline Worth WorthOf(const Sums& line) {
+    // How often each of the sums 2 to 12 occurs, a digit each.
     QString counts;
     for (int sum = 2; sum <= 12; ++sum) {
         counts += QString::number(line.count(sum));
     }
-    const auto fits = [&](const Worth& worth) { return counts.contains(worth.counts); };
+    const auto fits = [&](const Worth& worth) { return counts.contains(worth.pattern); };
     return *std::ranges::find_if(worths, fits);
 }
