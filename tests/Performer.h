@@ -35,7 +35,6 @@ inline QString Seen(const QString& control, QStringList details) {
 // A step is one of these:
 //   img2_4          a click on a control, on a menu entry (mnuNewGame) or on a button of a dialog (ResetScores)
 //   double:img2_4   a double click on a control
-//   double:img2_4   a double click on a control
 //   press:img2_4    the mouse button goes down on a control and stays down (for the pictures only)
 //   Ctrl+R          a key
 //   close           the close box of the window or dialog
@@ -93,7 +92,7 @@ private:
         QString step = steps_.isEmpty() ? "close" : steps_.takeFirst(); // a dialog is open at the end of the script
         Note("Before " + step);
         step.remove(QRegularExpression("^[12]:"));
-        clock_ = clock_.addSecs(52'132); // so that each step has a second and a day of its own
+        clock_ = clock_.addSecs(52'132); // so that date, hour and second keep changing
         if (step.startsWith("copy:")) {
             const int best = step.sliced(5).toInt();
             Save({{best, "a"}, {best - 1, "b"}, {best - 2, "c"}, {best - 3, "d"}, {best - 4, ""}});

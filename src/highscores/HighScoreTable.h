@@ -36,8 +36,8 @@ public:
     QString Caption(std::int16_t rank) const;
 
     // Replaces the table with what the store holds now, in the store's order. If the store cannot be read, the table
-    // stays as it is; so does an entry whose stored score needs more than 16 bits. Pass a newly
-    // opened store: a QSettings keeps its first error.
+    // stays as it is; so does an entry whose stored score needs more than 16 bits. Pass a newly opened store: a
+    // QSettings keeps its first error.
     void Load(QSettings& store);
 
     // Writes all entries to disk before it returns. If the store cannot be written, nothing is reported.
