@@ -110,6 +110,7 @@ void Form1::ComposeCells(QWidget* table) {
         cell->SetPreview([=, this] { return isOpen() ? RevealedRoll() : RollValue{0}; });
         cell->SetHint([=, this] { return cell == &CurrentCell() ? speech_.StepHint(RevealedRoll()) : QString(); });
         connect(cell, &PictureButton::clicked, this, [=, this] { PlaceRoll(*cell, row, column); });
+        cell->installEventFilter(this);
         cells_[Board::Element(row, column)] = cell;
     }
 }

@@ -26,6 +26,8 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
     // When the window becomes visible, the window manager has framed it.
     if (watched == windowHandle() && event->type() == QEvent::Expose && windowHandle()->isExposed()) {
         isFrameKnown_ ? UpdateFrame() : StartLayout();
+    } else if (event->type() == QEvent::FocusIn) {
+        FollowFocus();
     }
     return QMainWindow::eventFilter(watched, event);
 }

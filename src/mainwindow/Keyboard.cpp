@@ -35,7 +35,6 @@ void Form1::keyPressEvent(QKeyEvent* event) {
         QMainWindow::keyPressEvent(event);
         return;
     }
-    FollowFocus();
     auto [row, column] = currentCell_;
     switch (event->key()) {
     case Qt::Key_Left:
@@ -69,7 +68,6 @@ void Form1::keyPressEvent(QKeyEvent* event) {
 }
 
 bool Form1::focusNextPrevChild(bool next) {
-    FollowFocus();
     std::array<QWidget*, 3> stops{&CurrentCell(), image1_, imgNewGame_};
     if (!next) {
         std::reverse(stops.begin(), stops.end());
