@@ -8,11 +8,6 @@
 #include <QEvent>
 #include <QWindow>
 
-bool Form1::event(QEvent* event) {
-    // Qt would replace the prompt with the status tip of a menu entry.
-    return event->type() == QEvent::StatusTip || QMainWindow::event(event);
-}
-
 void Form1::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     if (!isLoaded_) {
