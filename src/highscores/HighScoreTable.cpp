@@ -50,7 +50,6 @@ QString HighScoreTable::Caption(std::int16_t rank) const {
 }
 
 void HighScoreTable::Load(QSettings& store) {
-    store.sync(); // another copy of the game may have written to it
     if (store.status() == QSettings::AccessError) {
         return;
     }
