@@ -8,7 +8,6 @@
 #include "mainwindow/Design.h"
 #include "mainwindow/SpokenNames.h"
 
-#include <QLayout>
 #include <QMenuBar>
 #include <QStatusBar>
 
@@ -31,9 +30,6 @@ Form1::Form1(Platform platform)
     setWindowTitle(u"Kelvaro"_s);
     setWindowIcon(QPixmap(u":/pictures/kelvaro.png"_s)); // on Windows, the icon of the program is used instead
     Compose();
-
-    // The minimum size comes from the layout of the game, not from that of Qt.
-    layout()->setSizeConstraint(QLayout::SetNoConstraint);
     resize(designClient + QSize(0, menuBar()->sizeHint().height()));
 }
 
