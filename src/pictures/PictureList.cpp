@@ -34,9 +34,7 @@ QPixmap PictureList::Rendering(std::int16_t index, const QSize& size) const {
     if (rendering.isNull()) {
         const QImage& own = Image(index);
         const QImage source = own.size() == size ? own : QImage(At(index).largeFileName);
-        // Pictures with a palette would be scaled without smoothing.
-        rendering = QPixmap::fromImage(source.convertToFormat(QImage::Format_ARGB32_Premultiplied)
-                                           .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        rendering = QPixmap::fromImage(source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     return rendering;
 }
