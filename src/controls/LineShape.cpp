@@ -11,7 +11,6 @@
 
 LineShape::LineShape(QWidget* parent, const QLineF& ends, int thickness, const QColor& colour)
     : QWidget(parent), thickness_(thickness), colour_(colour) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     SetEnds(ends);
 }
 

@@ -7,7 +7,7 @@
 #include <QLineF>
 #include <QWidget>
 
-// A straight line, horizontal or vertical, between two points in twips. Clicks go through it.
+// A straight line, horizontal or vertical, between two points in twips.
 class LineShape final : public QWidget {
 public:
     // `thickness` is in pixels. Without a colour, the line has the theme's text colour.
