@@ -47,7 +47,7 @@ private:
         } else if (control == "close") {
             hasEnded_ = true;
         } else if (control.startsWith("img")) {
-            Place(5 * control[3].digitValue() + control[5].digitValue() - 6);
+            Place(CellOf(control));
         } else {
             MoveFocus(control);
         }
@@ -64,13 +64,14 @@ private:
             dialog_ = entry;
             button_ = 0;
             shownScores_ = highScores_;
-            spokenTitle_ = isHighScores && !reports_.isEmpty() ? std::exchange(reports_, "") + " High Scores" : "";
+            const QStringList news = isHighScores ? std::exchange(reports_, {}) : QStringList();
+            spokenTitle_ = (news + QStringList(dialogs[entry].title)).join(' ');
             PerformDialog();
         }
     }
 
     void PressInDialog(const QString& step) {
-        const auto& [title, buttons, escapePresses, controls] = dialogs[dialog_];
+        const auto& [title, buttons, escapePresses, texts] = dialogs[dialog_];
         if (movesFocus.contains(step) && step != "Home" && step != "End") {
             button_ = (button_ + 1) % int(buttons.size()); // of one or two
         } else if (step == "Escape" && !escapePresses.isEmpty()) {
@@ -98,7 +99,6 @@ private:
     void MoveFocus(const QString& key) {
         const QStringList stops =
             CanRoll() ? QStringList{"grid", "Image1", "imgNewGame"} : QStringList{"grid", "imgNewGame"};
-        const auto stop = stops.size() + stops.indexOf(focus_);
         const int row = current_ / 5 * 5;
         const int column = current_ % 5;
         const QMap<QString, int> targets{{"Left", row + (column + 4) % 5},
@@ -108,7 +108,8 @@ private:
                                          {"End", row + 4},
                                          {"Down", (current_ + 5) % 25}};
         if (key == "Tab" || key == "Shift+Tab") {
-            focus_ = stops[(key == "Tab" ? stop + 1 : stop - 1) % stops.size()];
+            const auto step = key == "Tab" ? 1 : stops.size() - 1;
+            focus_ = stops[(stops.indexOf(focus_) + step) % stops.size()];
         } else if (targets.contains(key)) {
             // From a button the first key only enters the grid.
             current_ = focus_ == "grid" ? targets[key] : current_;
@@ -143,17 +144,17 @@ private:
         while (board_[current_] > 0) {
             current_ = (current_ + 1) % 25;
         }
-        seed_ = clock_.time().second();
+        roll_ = {.seed = clock_.time().second()};
         shownDice_ = dice_;
         pending_ = dice_[0] + dice_[1];
         isRevealed_ = false;
         Report(QString("%1 and %2: %3.").arg(dice_[0]).arg(dice_[1]).arg(pending_));
         for (const int die : {0, 1}) {
             isDieShown_[die] = true;
-            passes_ = die * passesOfAPause + 1;
+            roll_.passes = die * passesOfAPause + 1;
             PerformPause(die + 1);
+            roll_.passes = (die + 1) * passesOfAPause;
         }
-        passes_ = 2 * passesOfAPause;
         sum_ = QString("= %1").arg(pending_);
         isRevealed_ = true;
         prompt_ = "Select A Location for the Roll on the Grid";
@@ -182,7 +183,7 @@ private:
         }
     }
 
-    // Without points and a name if one of its cells is empty.
+    // What a line is worth; no points and no name while one of its cells is empty.
     Worth WorthOfLine(int line) const {
         Sums sums;
         for (int step = 0; step < 5; ++step) {
@@ -227,11 +228,11 @@ private:
 
     // What is heard.
 
-    void Report(const QString& news) { reports_ += (reports_.isEmpty() ? "" : " ") + news; }
+    void Report(const QString& news) { reports_ << news; }
 
     void Announce() {
         if (!reports_.isEmpty()) {
-            said_ = std::exchange(reports_, "");
+            said_ = std::exchange(reports_, {}).join(' ');
             moves_ = 0;
         }
     }
@@ -245,6 +246,7 @@ private:
 
     // What is seen.
 
+    static int CellOf(const QString& control) { return 5 * control[3].digitValue() + control[5].digitValue() - 6; }
     static QString Name(int cell) { return QString("img%1_%2").arg(cell / 5 + 1).arg(cell % 5 + 1); }
 
     QStringList See() override {
@@ -258,14 +260,13 @@ private:
                 QString("Row %1, column %2: %3 (Button)").arg(cell / 5 + 1).arg(cell % 5 + 1).arg(sum);
             const bool hasHint = cell == current_ && pending_ > 0 && isRevealed_ && moves_ == 1;
             const QString hint = hasHint ? QString("%1 to place").arg(pending_) : "";
-            seen << Seen(Name(cell), {QString("cell%1.png").arg(qMax(1, board_[cell])), "", spoken, hint});
+            seen << Seen(Name(cell), {QString("cell%1.png").arg(qMax(1, board_[cell])), spoken, hint});
         }
         for (int line = 0; line < 10; ++line) {
             const auto [points, hand, pattern] = WorthOfLine(line);
             const QString name = QString(line < 5 ? "_row%1" : "_col%1").arg(line % 5 + 1);
             if (hand) {
-                seen << Seen("lbl" + name, {QString::number(points), "#ffffff centred bold",
-                                            Spoken(line).chopped(2) + " (StaticText)"});
+                seen << Seen("lbl" + name, {QString::number(points), Spoken(line).chopped(2) + " (StaticText)"});
                 seen << Seen("img" + name, {line < 5 ? "arrow-right.ico" : "arrow-down.ico"}) << Seen("lin" + name, {});
             }
         }
@@ -279,28 +280,27 @@ private:
         const auto seeDie = [this](int die, const QString& spoken) {
             const QString control = QString("imgRolled%1").arg(die + 1);
             const QString picture = QString("die%1.jpg").arg(shownDice_[die]);
-            return isDieShown_[die] ? Seen(control, {picture, "", spoken.arg(shownDice_[die])}) : "";
+            return isDieShown_[die] ? Seen(control, {picture, spoken.arg(shownDice_[die])}) : "";
         };
         return {Seen("Line1", {}),
-                Seen("imgNewGame", {"newgame.png", "", "New Game (Button)"}),
-                Seen("lblRolled", {sum_, "#ffffff left bold on #008000", spokenSum + " (StaticText)"}),
-                Seen("lblTotal", {total, "#ffffff centred bold", "Total: " + total + " points (StaticText)"}),
-                CanRoll() ? Seen("Image1", {"roll.png", "", "Roll Dice (Button)"}) : "",
+                Seen("imgNewGame", {"newgame.png", "New Game (Button)"}),
+                Seen("lblRolled", {sum_, spokenSum + " (StaticText)"}),
+                Seen("lblTotal", {total, "Total: " + total + " points (StaticText)"}),
+                CanRoll() ? Seen("Image1", {"roll.png", "Roll Dice (Button)"}) : "",
                 seeDie(0, "First die: %1 (Graphic)"),
                 seeDie(1, "Second die: %1 (Graphic)")};
     }
 
     QStringList SeeDialog() const {
         const Dialog& dialog = dialogs[dialog_];
-        QStringList seen = QString(dialog.controls).replace("VERSION", PROJECT_VERSION).split('\n', Qt::SkipEmptyParts);
-        seen << Seen("dialog", {dialog.title, dialog.buttons[button_], spokenTitle_});
-        for (int at = 0; at < 5 && dialog_ == "mnuGameHigh"; ++at) {
-            const auto& [points, text] = shownScores_[at];
-            const QString spoken = QString("Rank %1: %2 points").arg(at + 1).arg(points) + (text.isEmpty() ? "" : ", ");
-            seen << Seen(QString("8,%1 281x25 lblHighScore(%2)").arg(8 + 24 * at).arg(at),
-                         {QString("%1  ").arg(points) + text, "#ffffff left bold", spoken + text + " (StaticText)"});
+        QStringList texts = QString(dialog.texts).replace("VERSION", PROJECT_VERSION).split('\n', Qt::SkipEmptyParts);
+        for (int rank = dialog_ == "mnuGameHigh" ? 5 : 0; rank > 0; --rank) {
+            const auto& [points, text] = shownScores_[rank - 1];
+            const QString score = QString("Rank %1: %2 points").arg(rank).arg(points);
+            texts.prepend(score + (text.isEmpty() ? "" : ", " + text) + " (StaticText)");
         }
-        return seen;
+        const QString role = dialog.buttons.contains("Yes") ? " (AlertMessage)" : " (Dialog)";
+        return {Seen("dialog", {dialog.title, dialog.buttons[button_], spokenTitle_ + role}), Seen("texts", texts)};
     }
 
     // The game.
@@ -313,9 +313,11 @@ private:
 
     // The keyboard: the focus is in the "grid", or on "Image1" or "imgNewGame".
     QString focus_;
-    int current_ = 0, moves_ = 0; // the cell that has the focus or gets it; how often it moved since an announcement
+    int current_ = 0; // the cell that has the focus or gets it
+    int moves_ = 0;   // of the focus over the grid, since the last announcement
 
-    QString reports_, said_; // to be announced; what was announced since the last look
+    QStringList reports_;                                         // to be announced
+    QString said_;                                                // since the last look
     ScoreTable highScores_, shownScores_, saved_ = ScoreTable(5); // the window's, the open dialog's, the file's
     QString store_;                                               // the content of the file
     QString dialog_, spokenTitle_; // the menu entry of the open dialog; what a screen reader says for its title

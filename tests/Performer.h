@@ -22,7 +22,7 @@ inline QString StoreContent(const ScoreTable& table) {
     return "[HighScores]\n" + scores + texts;
 }
 
-// One line of what is seen: a control, what it shows, its look, and its name and hint for a screen reader.
+// One line of what is seen: a control, what it shows, and its name and hint for a screen reader.
 inline QString Seen(const QString& control, QStringList details) {
     details.prepend(control);
     details.removeAll("");
@@ -35,13 +35,20 @@ inline QString Seen(const QString& control, QStringList details) {
 // A step is one of these:
 //   img2_4          a click on a control, on a menu entry (mnuNewGame) or on a button of a dialog (ResetScores)
 //   double:img2_4   a double click on a control
-//   press:img2_4    the mouse button goes down on a control and stays down (for the pictures only)
 //   Ctrl+R          a key
 //   close           the close box of the window or dialog
 //   3+4             says what the next dice are
 //   again           the program starts again
-//   copy:120        another copy of the game saves a table from 120 points down
-//   1:img2_4        any of these during the first pause of the preceding roll; with 2: during the second
+//   copy:120        another copy of the game saves a table; its best score is 120
+//   1:img2_4        any of these during the first pause of the preceding roll, with 2: during the second; without such
+//   a
+//                   pause at once
+//
+// These are for the player only:
+//   press:img2_4    the mouse button goes down on a control and stays down
+//   enlarge         makes the window larger
+//   showMinimized   minimises the window; showNormal restores it
+//   photo           takes a photo of the window or dialog
 //
 // While a dialog is open, clicks and keys go to it. Menu entries go to the window, as with a screen reader, except for
 // rolling. A dialog that is open at the end of the script is closed.
@@ -83,9 +90,11 @@ protected:
     // The machine that the game runs on.
     QDateTime clock_{{2026, 12, 31}, {20, 58, 59}};
     QList<int> dice_{1, 1}; // of the next roll
-    int seed_ = -1;         // the last roll's
-    int passes_ = 0;        // of the event loop, in the last roll's pauses
     bool hasEnded_ = false; // whether the program has
+    struct {
+        int seed = -1;
+        int passes = 0; // of the event loop, in its pauses
+    } roll_;            // the last one
 
 private:
     void PerformNext() {
@@ -95,7 +104,7 @@ private:
         clock_ = clock_.addSecs(52'132); // so that date, hour and second keep changing
         if (step.startsWith("copy:")) {
             const int best = step.sliced(5).toInt();
-            Save({{best, "a"}, {best - 1, "b"}, {best - 2, "c"}, {best - 3, "d"}, {best - 4, ""}});
+            Save({{best, "a"}, {best - 1, "<b>b"}, {best - 2, "c"}, {best - 3, "d"}, {best - 4, ""}});
         } else if (step[0].isDigit()) {
             dice_ = {step[0].digitValue(), step[2].digitValue()};
         } else if (step == "again" && !IsDialogOpen()) {
@@ -107,10 +116,11 @@ private:
     }
 
     void Note(const QString& when) {
-        QStringList seen = See() << QString("roll: seed %1, %2 passes").arg(seed_).arg(passes_);
+        QStringList seen = See() << QString("roll: seed %1, %2 passes").arg(roll_.seed).arg(roll_.passes);
         seen << QString("program: %1").arg(hasEnded_ ? "has ended" : "runs");
         seen.removeAll("");
         seen.sort();
+        // A comparison that fails shows a single line, so each line says when it was seen.
         const QString prefix = QString("%1, %2 more to go, ").arg(when).arg(steps_.size());
         notes_ << seen.replaceInStrings(QRegularExpression("^"), prefix);
     }

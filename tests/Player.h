@@ -41,9 +41,17 @@ public:
     }
 
     Form1& Window() { return *window_; }
+    QImage Photo() const { return photo_; } // the last one
 
-    template <typename Control = QWidget> Control& Find(const QString& name) const {
-        return dynamic_cast<Control&>(*window_->findChild<QObject*>(name));
+    QWidget& Find(const QString& name) const { return *window_->findChild<QWidget*>(name); }
+
+    // What a screen reader finds in a window or on the table, in the order in which it reads it.
+    static QStringList Texts(QWidget& parent) {
+        QStringList texts;
+        for (int at = 0; at < Accessible(parent).childCount(); ++at) {
+            texts << Named(*Accessible(parent).child(at));
+        }
+        return texts;
     }
 
 private:
@@ -52,33 +60,34 @@ private:
         window_.reset();
         window_ = std::make_unique<Form1>(Platform{
             clock("yyyy"), clock("M"), clock("d"), clock("H"), clock("m"), clock("s"),
-            /* reseed */ [this](int seconds) { seed_ = seconds, passes_ = 0; },
+            /* reseed */ [this](int seconds) { roll_ = {.seed = seconds}; },
             /* nextUniform */ [this] { return (dice_[draws_++ % 2] - 0.5) / 6; },
             /* pumpEvents */ [this] { PassEvents(); },
             /* endProcess */ [this] { hasEnded_ = true; },
             /* openSettings */ [this] { return std::make_unique<QSettings>(storeName_, QSettings::IniFormat); }});
         window_->show();
         QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+        QTest::mouseMove(window_->windowHandle(), QPoint(1, 100)); // onto the bare table
     }
 
     void PassEvents() {
-        ++passes_;
-        if (passes_ % passesOfAPause == 1) {
+        ++roll_.passes;
+        if (roll_.passes % passesOfAPause == 1) {
             QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest); // paints
-            const int passes = passes_;
+            const int passes = roll_.passes;
             PerformPause(passes / passesOfAPause + 1);
-            passes_ = passes; // a roll inside the pause has counted its own
+            roll_.passes = passes; // a roll inside the pause has counted its own
         }
     }
 
-    // QSettings reads a file again only if its size or time has changed. Quick saves may get the same time, so each
-    // save sets a later one.
+    // QSettings reads a file again only if its size or time has changed. Quick saves may get the same time; the time of
+    // the game's clock is a new one in each step.
     void Save(const ScoreTable& table) override {
         QFile file(storeName_);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(StoreContent(table).toUtf8());
         file.flush();
-        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(++saves_), QFileDevice::FileModificationTime));
+        QVERIFY(file.setFileTime(clock_, QFileDevice::FileModificationTime));
     }
 
     bool IsDialogOpen() const override { return QApplication::activeModalWidget() != nullptr; }
@@ -87,7 +96,7 @@ private:
         QWidget* dialog = QApplication::activeModalWidget();
         if (dialog != nullptr && dialog != dialog_ && dialog->isAncestorOf(QApplication::focusWidget())) {
             dialog_ = dialog;
-            HoldKey(); // the key that has opened it
+            HoldKey(); // the key that opened it, if one did
             PerformDialog();
             dialog_ = nullptr;
         }
@@ -100,8 +109,12 @@ private:
         for (auto* button : window.findChildren<QPushButton*>()) {
             control = Caption(*button) == name ? button : control;
         }
-        if (step == "close") {
-            window.close();
+        if (window.metaObject()->indexOfSlot(qPrintable(step + "()")) >= 0) { // close, showMinimized or showNormal
+            QMetaObject::invokeMethod(&window, qPrintable(step));
+        } else if (step == "enlarge") {
+            window.resize(QSize(700, 750).shrunkBy(window.windowHandle()->frameMargins()));
+        } else if (step == "photo") {
+            photo_ = Photograph(window);
         } else if (auto* entry = window.findChild<QAction*>(step)) {
             entry->trigger();
         } else if (control != nullptr) {
@@ -111,9 +124,17 @@ private:
         }
     }
 
-    // Quick clicks on different controls are not a double click.
+    // What is on the screen: it shows whether the game has repainted what changed.
+    static QImage Photograph(QWidget& window) {
+        QCoreApplication::processEvents();
+        if (window.devicePixelRatio() != 1) {
+            return window.grab().toImage(); // paints everything
+        }
+        window.backingStore()->flush(window.rect());
+        return window.screen()->grabWindow(window.winId()).toImage();
+    }
+
     static void UseMouse(QWindow& window, const QPoint& point, const QString& step) {
-        QApplication::setDoubleClickInterval(step.startsWith("double:") ? 400 : 0);
         QTest::mouseMove(&window, point);
         if (step.startsWith("double:")) {
             QTest::mouseDClick(&window, Qt::LeftButton, {}, point);
@@ -139,14 +160,13 @@ private:
     void HoldKey() {
         SendKey(false, 100);
         SendKey(true, 0);
-        SendKey(false, 100, true);
-        SendKey(true, 1, true);
+        SendKey(true, 100, true);
     }
 
-    // `later` is in milliseconds since the last key event. Qt marks an event that it takes for a repeat.
-    void SendKey(bool isDown, int later, bool isMarked = false) {
+    // `delay` is the time since the last key event, in milliseconds. Qt marks an event that it takes for a repeat.
+    void SendKey(bool isDown, int delay, bool isMarked = false) {
         QWindow* window = (IsDialogOpen() ? QApplication::activeModalWidget() : window_.get())->windowHandle();
-        PlayersApplication::time += later;
+        PlayersApplication::time += delay;
         if (!hasEnded_) {
             window->requestActivate();
             QVERIFY(QTest::qWaitForWindowActive(window));
@@ -158,7 +178,8 @@ private:
         QFile store(storeName_);
         // No screen reader runs here. The announcer's name is its latest announcement.
         auto& announcer = Find("Announcer");
-        QStringList seen{"said: " + Named(announcer), "prompt: " + Named(*window_->statusBar()->findChild<QLabel*>()),
+        QStringList seen{"said: " + Named(Accessible(announcer)),
+                         "prompt: " + Named(Accessible(*window_->statusBar()->findChild<QLabel*>())),
                          "focus: " + window_->focusWidget()->objectName(),
                          "store: " + QString(store.open(QIODevice::ReadOnly) ? store.readAll() : "")};
         announcer.setAccessibleName("");
@@ -172,71 +193,42 @@ private:
     }
 
     QStringList SeeDialog(QWidget& dialog) const {
+        const auto* question = qobject_cast<const QMessageBox*>(&dialog);
         const bool isAbove = dialog.windowHandle()->transientParent() == window_->windowHandle();
-        const bool hasFrame = dialog.windowFlags() & Qt::WindowCloseButtonHint && !dialog.windowIcon().isNull();
-        QStringList seen{Seen("dialog", {dialog.windowTitle(), Caption(*dialog.focusWidget()), dialog.accessibleName(),
-                                         isAbove && hasFrame ? "" : "not above, or no close box or icon"})};
-        if (const auto* question = qobject_cast<const QMessageBox*>(&dialog)) {
-            const bool isPlain = question->icon() == QMessageBox::NoIcon && question->textInteractionFlags() == 0;
-            return seen << Seen("question", {question->text(), isPlain ? "" : "icon or text to select"});
-        }
+        const bool isFixed = dialog.minimumSize() == dialog.maximumSize();
+        const bool isFramed = dialog.windowFlags() & Qt::WindowCloseButtonHint && !dialog.windowIcon().isNull();
+        const bool isPlain =
+            question == nullptr || (question->icon() == QMessageBox::NoIcon && question->textInteractionFlags() == 0);
         const QPoint offCentre = dialog.frameGeometry().center() - dialog.screen()->geometry().center();
-        QAccessibleInterface& last = *Accessible(dialog).child(Accessible(dialog).childCount() - 1);
-        seen << Seen(QString("size %1x%2").arg(dialog.maximumWidth()).arg(dialog.maximumHeight()),
-                     {QDebug::toString(Accessible(dialog).role()), QDebug::toString(last.role()),
-                      offCentre.manhattanLength() > 4 ? "off centre" : ""});
-        for (QWidget* control : dialog.findChildren<QWidget*>()) {
-            seen << SeePlace(*control) + SeeControl(*control);
-        }
-        return seen;
+        const bool isCentred = question != nullptr || offCentre.manhattanLength() <= 4;
+        return {Seen("dialog", {dialog.windowTitle(), Caption(*dialog.focusWidget()), Named(Accessible(dialog)),
+                                isAbove ? "" : "not above", isFixed ? "" : "can be resized",
+                                isFramed ? "" : "no close box or icon", isPlain ? "" : "icon or text to select",
+                                isCentred ? "" : "off centre"}),
+                Seen("texts", Texts(dialog))};
     }
 
     static QString Caption(const QWidget& button) { return button.property("text").toString().remove('&').remove(' '); }
 
     // What a screen reader says of a control that has a name: "New Game (Button)".
-    static QString Named(QWidget& control) {
-        const QString name = Accessible(control).text(QAccessible::Name);
-        const QString role = QDebug::toString(Accessible(control).role()).section(':', -1);
-        return name.isEmpty() ? "" : QString("%1 (%2)").arg(name, role);
+    static QString Named(QAccessibleInterface& control) {
+        const QString name = control.text(QAccessible::Name);
+        return name.isEmpty() ? "" : name + " (" + QDebug::toString(control.role()).section(':', -1) + ")";
     }
 
     static QString SeeControl(QWidget& control) {
-        QString shown, look;
-        if (const auto* picture = dynamic_cast<const PictureFace*>(&control)) {
-            shown = picture->FileName().section('/', -1);
-        } else if (const auto* label = dynamic_cast<const QLabel*>(&control)) {
-            shown = label->text();
-            look = label->palette().windowText().color().name();
-            look += label->alignment() == (Qt::AlignLeft | Qt::AlignTop) ? " left" : " centred";
-            look += label->font().bold() ? " bold" : "";
-            look += label->textFormat() == Qt::PlainText ? "" : " with markup";
-            look += label->autoFillBackground() ? " on " + label->palette().window().color().name() : "";
-        } else if (const auto* button = dynamic_cast<const QPushButton*>(&control)) {
-            shown = Caption(control) + (button->isDefault() ? " (default)" : "");
-        }
-        return Seen(control.objectName(), {shown, look, control.accessibleName().isEmpty() ? "" : Named(control),
-                                           Accessible(control).text(QAccessible::Description)});
-    }
-
-    // A control's place, and "cut off" if a part of its text cannot be seen, whatever the fonts.
-    static QString SeePlace(const QWidget& control) {
-        const QRect place = control.geometry();
-        const QRect button = control.parentWidget()->focusWidget()->geometry();
-        const bool isButton = control.inherits("QPushButton");
-        const QString text = control.property("text").toString();
-        const int flags = isButton ? Qt::AlignCenter : control.property("wordWrap").toBool() ? Qt::TextWordWrap : 0;
-        const QRect needed = text.isEmpty() ? QRect() : control.fontMetrics().boundingRect(place, flags, text);
-        const QRect visible = place & control.parentWidget()->rect();
-        const bool isCutOff = (needed | visible) != visible || (!isButton && needed.intersects(button));
-        return QString("%1,%2 %3x%4 ").arg(place.x()).arg(place.y()).arg(place.width()).arg(place.height())
-               + (isCutOff ? "cut off " : "");
+        const auto* picture = dynamic_cast<const PictureFace*>(&control);
+        const auto* label = dynamic_cast<const QLabel*>(&control);
+        return Seen(control.objectName(),
+                    {picture ? picture->FileName().section('/', -1) : "", label ? label->text() : "",
+                     Named(Accessible(control)), Accessible(control).text(QAccessible::Description)});
     }
 
     QTemporaryDir folder_;
     QString storeName_ = folder_.filePath("KVR.ini");
-    int saves_ = 0;
     int draws_ = 0;
     QKeyCombination heldKey_;
+    QImage photo_;
     QTimer idle_;
     const QWidget* dialog_ = nullptr; // the one that the script is in
     std::unique_ptr<Form1> window_;
