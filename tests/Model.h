@@ -24,6 +24,9 @@ private:
         const bool actsOnFocus = step == "Space" || step == "Return" || step == "Enter";
         if (isInDialog) {
             PressInDialog(actsOnFocus ? dialogs[dialog_].buttons[button_] : step);
+        } else if (step.startsWith("focus:")) {
+            current_ = CellOf(step.sliced(6));
+            focus_ = "grid";
         } else {
             PressInWindow(actsOnFocus ? FocusedControl() : step.section(':', -1)); // a double click is one click
         }
@@ -78,6 +81,8 @@ private:
             CloseDialog(escapePresses);
         } else if (step == "close" || buttons.contains(step)) {
             CloseDialog(step);
+        } else if (step == "wait") {
+            spokenTitle_ = title;
         }
     }
 
@@ -102,6 +107,7 @@ private:
         const int row = current_ / 5 * 5;
         const int column = current_ % 5;
         const QMap<QString, int> targets{{"Left", row + (column + 4) % 5},
+                                         {"Num+Left", row + (column + 4) % 5},
                                          {"Right", row + (column + 1) % 5},
                                          {"Up", (current_ + 20) % 25},
                                          {"Home", row},
@@ -151,9 +157,12 @@ private:
         Report(QString("%1 and %2: %3.").arg(dice_[0]).arg(dice_[1]).arg(pending_));
         for (const int die : {0, 1}) {
             isDieShown_[die] = true;
-            roll_.passes = die * passesOfAPause + 1;
-            PerformPause(die + 1);
-            roll_.passes = (die + 1) * passesOfAPause;
+            if (++nestedPauses_ <= 64) {
+                roll_.passes = die * passesOfAPause + 1;
+                PerformPause(die + 1);
+                roll_.passes = (die + 1) * passesOfAPause;
+            }
+            --nestedPauses_;
         }
         sum_ = QString("= %1").arg(pending_);
         isRevealed_ = true;
@@ -307,6 +316,7 @@ private:
     Sums board_;
     int pending_ = 0;
     bool isRevealed_ = false; // the pending roll
+    int nestedPauses_ = 0;    // of rolls that started in another's pause
     QList<bool> isDieShown_;
     QList<int> shownDice_{1, 1};
     QString sum_, prompt_;

@@ -35,8 +35,10 @@ inline QString Seen(const QString& control, QStringList details) {
 // A step is one of these:
 //   img2_4          a click on a control, on a menu entry (mnuNewGame) or on a button of a dialog (ResetScores)
 //   double:img2_4   a double click on a control
+//   focus:img2_4    a screen reader moves the focus to a control
 //   Ctrl+R          a key
 //   close           the close box of the window or dialog
+//   wait            waits until the news in a dialog's name are gone
 //   3+4             says what the next dice are
 //   again           the program starts again
 //   copy:120        another copy of the game saves a table; its best score is 120
@@ -67,7 +69,8 @@ public:
 
 protected:
     static constexpr int passesOfAPause = 250'000;
-    static inline const QStringList movesFocus{"Tab", "Shift+Tab", "Left", "Right", "Up", "Down", "Home", "End"};
+    static inline const QStringList movesFocus{"Tab",  "Shift+Tab", "Left", "Right",   "Up",
+                                               "Down", "Home",      "End",  "Num+Left"};
 
     virtual void Start() = 0;
     virtual void Save(const ScoreTable& table) = 0;
