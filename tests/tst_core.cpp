@@ -15,6 +15,8 @@
 class tst_core : public QObject {
     Q_OBJECT
 
+    const Platform machine_ = SystemPlatform();
+
 private slots:
     void allHands() {
         for (int code = 0; code < 161'051; ++code) { // five times eleven sums
@@ -30,12 +32,11 @@ private slots:
 
     // The sums are spread as with real dice, even if the clock that re-seeds them stands still.
     void dice() {
-        const Platform machine = SystemPlatform();
         constexpr int rolls = 12'000;
         QMap<int, int> sums;
         for (int roll = 0; roll < rolls; ++roll) {
-            machine.reseed(30);
-            ++sums[RollDie(machine.nextUniform()) + RollDie(machine.nextUniform())];
+            machine_.reseed(30);
+            ++sums[RollDie(machine_.nextUniform()) + RollDie(machine_.nextUniform())];
         }
         for (int sum = 2; sum <= 12; ++sum) {
             const int expected = rolls / 36 * (6 - qAbs(sum - 7));
@@ -44,15 +45,14 @@ private slots:
     }
 
     void machine() {
-        const Platform machine = SystemPlatform();
         // Two starts give different games.
-        QVERIFY(machine.nextUniform() != SystemPlatform().nextUniform());
-        QTRY_COMPARE(DateTimeText(machine), QDateTime::currentDateTime().toString("yyyy/M/d H:mm"));
+        QVERIFY(SystemPlatform().nextUniform() != SystemPlatform().nextUniform());
+        QTRY_COMPARE(DateTimeText(machine_), QDateTime::currentDateTime().toString("yyyy/M/d H:mm"));
         // One call dispatches what is pending.
         bool isDispatched = false;
         QMetaObject::invokeMethod(
             qApp, [&] { isDispatched = true; }, Qt::QueuedConnection);
-        machine.pumpEvents();
+        machine_.pumpEvents();
         QVERIFY(isDispatched);
     }
 
@@ -74,21 +74,20 @@ private slots:
     void storeFile() {
         const QTemporaryDir folder;
         qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
-        QSettings(QSettings::IniFormat, QSettings::UserScope, "Kelvaro")
-            .setValue("HighScores/Score4", "9"); // another file
+        // A file that is not the game's.
+        QSettings(QSettings::IniFormat, QSettings::UserScope, "Kelvaro").setValue("HighScores/Score4", "9");
         QDir(folder.path()).mkdir("Kelvaro");
         QFile file(folder.filePath("Kelvaro/KVR.ini"));
         QVERIFY(file.open(QIODevice::ReadWrite));
         file.write("[HighScores]\nScore1=77\nScore2=13.5\nScore3=1,5\nUser2=a, b\n[nonsense\n");
         file.close();
 
-        const Platform machine = SystemPlatform();
         HighScoreTable table;
-        table.Load(*machine.openSettings());
+        table.Load(*machine_.openSettings());
         QCOMPARE(table.Caption(2), "14  a,b");
         QCOMPARE(table.Caption(3), "1  ");
         table.Enter(70, [] { return "2026/11/22 2:33"; });
-        table.Save(*machine.openSettings());
+        table.Save(*machine_.openSettings());
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), "[HighScores]\nScore1=77\nScore2=70\nScore3=14\nScore4=1\nScore5=0\n"
                                  "User1=\nUser2=2026/11/22 2:33\nUser3=\"a,b\"\nUser4=\nUser5=\n");
