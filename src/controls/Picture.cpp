@@ -29,18 +29,21 @@ void PictureFace::SetPicture(const PictureList& list, std::int16_t index) {
 }
 
 QPixmap PictureFace::Face() const {
-    return list_ == nullptr
-               ? QPixmap()
-               : list_->Rendering(index_, (QSizeF(control_->size()) * control_->devicePixelRatioF()).toSize());
+    return list_ == nullptr ? QPixmap() : list_->Rendering(index_, DevicePixels().size());
 }
 
 void PictureFace::UseDevicePixels(QPainter& painter) const {
-    // At a fractional ratio the corner of a control lies between device pixels. The picture starts at the nearest one,
-    // so that it is not interpolated.
     const qreal ratio = control_->devicePixelRatioF();
-    const QPointF corner = control_->mapTo(control_->window(), QPoint());
-    painter.translate(QPointF((corner * ratio).toPoint()) / ratio - corner);
+    painter.translate(QPointF(DevicePixels().topLeft()) / ratio - control_->mapTo(control_->window(), QPoint()));
     painter.scale(1 / ratio, 1 / ratio);
+}
+
+// At a fractional ratio the edges of a control lie between device pixels. Qt rounds each edge, so controls of the same
+// size differ by a device pixel. The picture fills them exactly, so that it is neither interpolated nor cut.
+QRect PictureFace::DevicePixels() const {
+    const qreal ratio = control_->devicePixelRatioF();
+    const QRectF place(control_->mapTo(control_->window(), QPoint()), control_->size());
+    return {(place.topLeft() * ratio).toPoint(), (place.bottomRight() * ratio).toPoint() - QPoint(1, 1)};
 }
 
 Picture::Picture(QWidget* parent) : QWidget(parent), PictureFace(this) {

@@ -41,6 +41,8 @@ protected:
     void UseDevicePixels(QPainter& painter) const;
 
 private:
+    QRect DevicePixels() const; // that the control covers in its window
+
     QWidget* control_;
     const PictureList* list_ = nullptr;
     std::int16_t index_ = 0;
