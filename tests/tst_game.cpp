@@ -123,7 +123,7 @@ private slots:
         QTest::addColumn<QString>("script");
         const QString round = QString("Ctrl+R Return ").repeated(25) + "close ";
         QTest::newRow("start")
-            << "Tab Line1 Shift photo"; // a click on the bare table hides the focus, and Shift does not show it
+            << "Tab Line1 Meta photo"; // a click on the bare table hides the focus, and Meta does not show it
         QTest::newRow("roll-pressed") << "press:Image1 photo";
         QTest::newRow("first-pause") << "3+4 Space 1:photo";
         QTest::newRow("hovered") << "img3_3 6+6 Ctrl+R photo";
