@@ -38,7 +38,7 @@ inline QString Seen(const QString& control, QStringList details) {
 //   focus:img2_4    a screen reader moves the focus to a control
 //   Ctrl+R          a key
 //   close           the close box of the window or dialog
-//   wait            waits until the news in a dialog's name are gone
+//   wait            waits until the news in a dialog's name is gone
 //   3+4             says what the next dice are
 //   again           the program starts again
 //   copy:120        another copy of the game saves a table; its best score is 120

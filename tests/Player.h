@@ -165,7 +165,8 @@ private:
         heldKey_ = outer;
     }
 
-    // X11 repeats a key with a release and a press at the same time; elsewhere Qt marks the repeats.
+    // X11 repeats a key with a release and a press at the same time; elsewhere, and without times, only Qt's marks
+    // tell.
     void HoldKey() {
         SendKey(false, 100, !PlayersApplication::hasTimes);
         SendKey(true, 0, !PlayersApplication::hasTimes);
